@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace flowloom {
+
+// Case folding of UTF-8 text, for comparing names without regard to case.
+// ASCII text takes a fast path; anything else goes through full Unicode case
+// folding. Invalid UTF-8 is folded byte by byte as ASCII, never rejected.
+std::string FoldCase(std::string_view text);
+
+bool EqualsNoCase(std::string_view a, std::string_view b);
+
+// Upper and lower case of UTF-8 text (for display and for the comparisons that
+// the host language makes with UCase/LCase).
+std::string ToUpper(std::string_view text);
+std::string ToLower(std::string_view text);
+
+// Position (0-based) of the first occurrence of `needle` in `haystack` at or
+// after `from`, compared without regard to case; npos when absent.
+std::size_t FindNoCase(std::string_view haystack, std::string_view needle, std::size_t from = 0);
+
+}  // namespace flowloom

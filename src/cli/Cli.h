@@ -1,0 +1,14 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace flowloom::cli {
+
+// Runs flowloom-cli with its arguments (without the program name). Exit
+// codes: 0 success, 1 the command ran and found a problem, 2 bad arguments or
+// a file that could not be read.
+int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+
+}  // namespace flowloom::cli

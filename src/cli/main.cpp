@@ -1,0 +1,10 @@
+#include "Cli.h"
+
+#include <iostream>
+#include <string>
+#include <vector>
+
+int main(int argc, char** argv) {
+    std::vector<std::string> args(argv + 1, argv + argc);
+    return flowloom::cli::Run(args, std::cout, std::cerr);
+}

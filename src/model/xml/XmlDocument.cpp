@@ -1,0 +1,118 @@
+#include "model/xml/XmlDocument.h"
+
+#include "app/TextCompare.h"
+#include "app/VbError.h"
+
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+namespace flowloom {
+
+namespace {
+
+constexpr unsigned kParseOptions = pugi::parse_default | pugi::parse_declaration;
+constexpr unsigned kFormat = pugi::format_raw;
+
+class StringWriter : public pugi::xml_writer {
+public:
+    explicit StringWriter(std::string& out) : out_(out) {}
+    void write(const void* data, size_t size) override { out_.append(static_cast<const char*>(data), size); }
+
+private:
+    std::string& out_;
+};
+
+const char* ReasonText(pugi::xml_parse_status status) {
+    switch (status) {
+    case pugi::status_file_not_found: return "The system cannot locate the object specified.";
+    case pugi::status_io_error: return "The file could not be read.";
+    case pugi::status_out_of_memory: return "Not enough storage is available to complete this operation.";
+    case pugi::status_no_document_element: return "XML document must have a top level element.";
+    case pugi::status_end_element_mismatch: return "End tag does not match the start tag.";
+    case pugi::status_unrecognized_tag: return "The element or tag is not well-formed.";
+    case pugi::status_bad_attribute: return "A string literal or attribute is not well-formed.";
+    case pugi::status_bad_start_element: return "The start tag is not well-formed.";
+    case pugi::status_bad_end_element: return "The end tag is not well-formed.";
+    case pugi::status_bad_pi: return "A processing instruction is not well-formed.";
+    case pugi::status_bad_comment: return "A comment is not well-formed.";
+    case pugi::status_bad_cdata: return "A CDATA section is not well-formed.";
+    case pugi::status_bad_doctype: return "A document type declaration is not well-formed.";
+    case pugi::status_bad_pcdata: return "Text content is not well-formed.";
+    case pugi::status_append_invalid_root: return "Only one top level element is allowed in an XML document.";
+    default: return "The document is not well-formed.";
+    }
+}
+
+}  // namespace
+
+bool XmlDocument::Load(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        document_.reset();
+        error_ = {0, ReasonText(pugi::status_file_not_found), {}};
+        return false;
+    }
+    std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    return LoadXml(text);
+}
+
+bool XmlDocument::LoadXml(std::string_view text) {
+    error_ = {};
+    pugi::xml_parse_result result = document_.load_buffer(text.data(), text.size(), kParseOptions, pugi::encoding_auto);
+    if (result && !document_.document_element()) result.status = pugi::status_no_document_element;
+    if (!result) {
+        SetParseError(result, text);
+        document_.reset();
+        return false;
+    }
+    return true;
+}
+
+void XmlDocument::SetParseError(const pugi::xml_parse_result& result, std::string_view text) {
+    std::size_t offset = std::min<std::size_t>(static_cast<std::size_t>(std::max<std::ptrdiff_t>(result.offset, 0)), text.size());
+    int line = 1;
+    std::size_t lineStart = 0;
+    for (std::size_t i = 0; i < offset; ++i)
+        if (text[i] == '\n') {
+            ++line;
+            lineStart = i + 1;
+        }
+    std::size_t lineEnd = text.find('\n', lineStart);
+    if (lineEnd == std::string_view::npos) lineEnd = text.size();
+    std::string src(text.substr(lineStart, lineEnd - lineStart));
+    if (!src.empty() && src.back() == '\r') src.pop_back();
+    error_ = {line, ReasonText(result.status), std::move(src)};
+}
+
+void XmlDocument::AppendDeclaration() {
+    pugi::xml_node decl = document_.append_child(pugi::node_declaration);
+    decl.append_attribute("version").set_value("1.0");
+    decl.append_attribute("encoding").set_value("UTF-8");
+}
+
+std::string XmlDocument::XML() const { return SerializeNode(document_); }
+
+void XmlDocument::Save(const std::filesystem::path& path) const {
+    const std::string text = XML();
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    if (!out) RaiseStandardError(vberr::PathNotFound);
+    out.write(text.data(), static_cast<std::streamsize>(text.size()));
+    out.flush();
+    if (!out) RaiseStandardError(61);  // disk full
+}
+
+std::string SerializeNode(const pugi::xml_node& node) {
+    std::string out;
+    StringWriter writer(out);
+    node.print(writer, "", kFormat | pugi::format_no_declaration, pugi::encoding_utf8);
+    return out;
+}
+
+bool NameIs(const pugi::xml_attribute& attribute, std::string_view name) {
+    return EqualsNoCase(attribute.name(), name);
+}
+
+bool NameIs(const pugi::xml_node& node, std::string_view name) { return EqualsNoCase(node.name(), name); }
+
+}  // namespace flowloom

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+namespace flowloom {
+
+// The single place where a trapped run-time error becomes a message box, a
+// record in errorlog.txt and, for what looks like a bug, a report by mail.
+class ErrorHandler {
+public:
+    ErrorHandler();
+
+    bool ShowProjectInfo = false;
+    bool ShowSysInfo = false;
+    bool ShowLocaleInfo = false;
+    std::string AppTitleAndVersion;
+    std::string PleaseSend = "Please send the following error to ";
+    std::string SendTo;
+    std::string WhatHappens = "DESCRIBE WHAT HAPPENS: ";
+    std::string TryingTo = "DESCRIBE WHAT YOU TRY TO DO: ";
+    std::string ContactMe = "Please contact me about the following problem:";
+
+    // Classifies, logs, shows and offers to report one error; returns the
+    // answer of the box that was shown (0 when none was).
+    int ErrorMessage(std::int32_t errNo, std::int32_t errLine, const std::string& strDescription,
+                     const std::string& strComment, const std::string& strSource,
+                     const std::string& strProcedure, bool bReportError,
+                     bool bHandledByCallingProcedure, bool bPickLinesFromErrorlog,
+                     const std::string& strHelpFile, std::int32_t lngHelpContextId);
+
+    // errorlog.txt beside the program (or in the writable fallback folder).
+    std::filesystem::path LogFilePath() const;
+
+    // The one shared handler, created on first use.
+    static ErrorHandler& Shared();
+};
+
+// Whether an error number asks for a report (false for the expected failures
+// of files, disks and databases, and for the system's codes a user can fix).
+bool IsReportableError(std::int32_t errNo);
+
+}  // namespace flowloom
