@@ -1,0 +1,57 @@
+#pragma once
+
+#include <pugixml.hpp>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace flowloom {
+
+class Process;
+
+// The shape every activity has: type name, key, parent process, description,
+// Execute, Dispose and LoadElement. Execute does nothing in the designer: the
+// model only holds what a run needs.
+class Activity {
+public:
+    virtual ~Activity() = default;
+
+    // "MailMerge", "SaveAs", "PrintOut", "Convert", "SendMail", "SendFax", "AddRecord".
+    virtual std::string ActivityType() const = 0;
+
+    // Made once from the type name and a random number, then kept; never saved.
+    const std::string& Key();
+    void SetKey(std::string key) { key_ = std::move(key); }
+
+    std::shared_ptr<Process> ParentProcess() const { return parent_.lock(); }
+    void SetParentProcess(const std::shared_ptr<Process>& process) { parent_ = process; }
+
+    const std::string& Description() const noexcept { return description_; }
+    void SetDescription(std::string text) { description_ = std::move(text); }
+
+    virtual bool Execute() { return false; }
+    // Releases the references; the end of the object's life does it as well.
+    virtual void Dispose() { parent_.reset(); }
+    // Keeps the process as the parent, then reads the attributes.
+    virtual void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) = 0;
+
+    // The name of the document this activity produces, for the activities
+    // that have one; nullopt for the others.
+    virtual std::optional<std::string> ProducedDocumentName() { return std::nullopt; }
+
+protected:
+    Activity() = default;
+    Activity(const Activity&) = default;
+    Activity& operator=(const Activity&) = default;
+
+private:
+    std::string key_;
+    std::string description_;
+    std::weak_ptr<Process> parent_;
+};
+
+// A random fraction in [0, 1) from the one unseeded generator that keys use.
+float NextRandomFraction();
+
+}  // namespace flowloom

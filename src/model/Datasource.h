@@ -1,0 +1,43 @@
+#pragma once
+
+#include <pugixml.hpp>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace flowloom {
+
+class Process;
+
+// Where the records of a process come from: a table, query, form or report
+// of an Access database.
+class Datasource {
+public:
+    std::string Type_;       // saved as Type
+    std::string Database;    // name of a Database
+    std::string ObjectName;
+    std::int32_t Records = 0;  // 0 current, 1 all, 2 selected
+    std::string SubFormFullName;  // saved as SubformFullName
+    std::string SaveXmlToFolder;
+
+    // Falls back on ObjectName on first read and keeps it.
+    const std::string& name();
+    // The stored name, without the fallback.
+    const std::string& StoredName() const noexcept { return name_; }
+    void SetName(std::string value) { name_ = std::move(value); }
+
+    std::int32_t RecordCount() const noexcept { return 0; }
+    std::shared_ptr<Process> ParentProcess() const { return parent_.lock(); }
+    void SetParentProcess(const std::shared_ptr<Process>& process) { parent_ = process; }
+
+    // Reads the attributes; a main datasource registers itself with the process.
+    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process);
+    void Dispose();
+
+private:
+    std::string name_;
+    std::weak_ptr<Process> parent_;
+};
+
+}  // namespace flowloom

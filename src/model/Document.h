@@ -1,0 +1,35 @@
+#pragma once
+
+#include "app/TaggedValue.h"
+
+#include <pugixml.hpp>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace flowloom {
+
+// A document that an activity produces and a later one takes. Only the name
+// is persisted; the rest is carried for a run.
+class Document {
+public:
+    std::string name;
+    std::string Template;
+    std::string Contents;
+    bool Show = false;
+
+    const TaggedValue& Object() const noexcept { return object_; }
+    void SetObject(TaggedValue value) { object_ = std::move(value); }
+    // Created on first read.
+    std::vector<std::string>& Pictures();
+
+    void LoadElement(const pugi::xml_node& node);
+    void Dispose();
+
+private:
+    TaggedValue object_;
+    std::unique_ptr<std::vector<std::string>> pictures_;
+};
+
+}  // namespace flowloom

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <pugixml.hpp>
+
+#include <string>
+
+namespace flowloom {
+
+// A group that may use a process; only its name is kept.
+class Group {
+public:
+    std::string name;
+
+    // Takes the Name attribute; failures are ignored.
+    void LoadElement(const pugi::xml_node& node);
+};
+
+}  // namespace flowloom

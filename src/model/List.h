@@ -1,0 +1,42 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace flowloom {
+
+class Datasource;
+
+// A list of values (mail recipients) from one of three sources that exclude
+// one another: a text, an array, or a field of a datasource.
+class List {
+public:
+    // The stored text if not empty, else the array joined with ListSeparator.
+    std::string ValueList() const;
+    // Stores the text; a non-empty text clears the array and the datasource.
+    void SetValueList(std::string text);
+
+    const std::string& ListSeparator() const noexcept { return separator_; }
+    void SetListSeparator(std::string separator) { separator_ = std::move(separator); }
+
+    const std::vector<std::string>& Values() const noexcept { return values_; }
+    // A non-empty array clears the text and the datasource.
+    void SetValues(std::vector<std::string> values);
+
+    std::shared_ptr<flowloom::Datasource> Datasource() const { return datasource_; }
+    // A datasource clears the text and the array; none clears FieldName.
+    void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource);
+
+    const std::string& FieldName() const noexcept { return fieldName_; }
+    void SetFieldName(std::string name) { fieldName_ = std::move(name); }
+
+private:
+    std::string text_;
+    std::string separator_ = ";";
+    std::vector<std::string> values_;
+    std::shared_ptr<flowloom::Datasource> datasource_;
+    std::string fieldName_;
+};
+
+}  // namespace flowloom

@@ -1,0 +1,98 @@
+#pragma once
+
+#include "model/Forward.h"
+#include "model/xml/XmlDocument.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace flowloom {
+
+// The contents of one processes file: processes, databases, groups and
+// options, with loading and saving. Always owned through a shared_ptr (use
+// Create); Dispose breaks the back references and must be called when the
+// object is given up (the destructor does it too).
+class Processes : public std::enable_shared_from_this<Processes> {
+public:
+    static std::shared_ptr<Processes> Create();
+    ~Processes();
+
+    // Result of the last load.
+    enum LoadState : std::int32_t { NotLoaded = 0, Loaded = 1, Failed = 2 };
+
+    std::int32_t Version() const noexcept { return version_; }
+    void SetVersion(std::int32_t version) { version_ = version; }
+
+    std::shared_ptr<flowloom::Databases> Databases() const { return databases_; }
+    void SetDatabases(std::shared_ptr<flowloom::Databases> databases) { databases_ = std::move(databases); }
+    std::shared_ptr<flowloom::Groups> Groups();  // created on first read
+    void SetGroups(std::shared_ptr<flowloom::Groups> groups) { groups_ = std::move(groups); }
+    bool HasGroups() const noexcept { return groups_ != nullptr; }
+    std::shared_ptr<flowloom::Options> Options() const { return options_; }
+    void SetOptions(std::shared_ptr<flowloom::Options> options) { options_ = std::move(options); }
+
+    // The text of the document as it was loaded.
+    const std::string& SourceXML() const;
+    std::int32_t Complete() const noexcept { return complete_; }
+    const std::string& ErrorString() const noexcept { return errorString_; }
+    const std::string& ProcessesFile() const noexcept { return processesFile_; }
+    void SetProcessesFile(std::string path) { processesFile_ = std::move(path); }
+    const std::shared_ptr<void>& Application() const noexcept { return application_; }
+
+    // Loads the file (the default file in the writable program folder when
+    // the name is empty and none is set). A file of another version than 1
+    // is converted and saved at once.
+    void Load(const std::string& fileName, std::shared_ptr<void> application = {});
+    // Writes the file (ProcessesFile when the name is empty) with a backup
+    // of the old one; false when the folder is missing or writing failed.
+    bool Save(const std::string& fileName);
+    // The serialised document as Save would write it.
+    std::string XML();
+
+    // Adds under the process's name; a name that exists gives the message
+    // "Process <name> already exists." and nothing is added.
+    void Add(const std::shared_ptr<Process>& process, const CollectionPosition& before = {},
+             const CollectionPosition& after = {});
+    // Unknown index or name is reported; the result is then empty.
+    std::shared_ptr<Process> Item(const CollectionPosition& position) const;
+    // Error 91 once disposed.
+    std::int32_t Count() const;
+    void Remove(const CollectionPosition& position);
+    std::vector<std::shared_ptr<Process>> Snapshot() const { return processes_.Snapshot(); }
+    auto begin() const { return processes_.begin(); }
+    auto end() const { return processes_.end(); }
+
+    // The first database whose name equals `name` without regard to case.
+    std::shared_ptr<Database> GetDatabaseByName(const std::string& name) const;
+
+    void Dispose();
+    bool Disposed() const noexcept { return disposed_; }
+
+private:
+    Processes();
+    void CheckLoadedDocument();
+    bool ReadRoot(const pugi::xml_node& root);
+    bool ReadContents(const pugi::xml_node& root);
+    bool WriteFile(const std::string& target, const XmlDocument& document);
+
+    KeyedCollection<Process> processes_;
+    std::unique_ptr<XmlDocument> document_;
+    std::shared_ptr<void> application_;
+    std::string processesFile_;
+    std::string errorString_;
+    std::int32_t complete_ = NotLoaded;
+    mutable std::string sourceXml_;
+    mutable bool sourceXmlReady_ = false;
+    std::shared_ptr<flowloom::Databases> databases_;
+    std::shared_ptr<flowloom::Options> options_;
+    std::shared_ptr<flowloom::Groups> groups_;
+    bool disposed_ = false;
+    std::int32_t version_ = 0;
+};
+
+// The default name of the processes file.
+inline constexpr const char* kDefaultProcessesFileName = "velorinprocesses.xml";
+
+}  // namespace flowloom
