@@ -11,8 +11,9 @@ namespace flowloom {
 class Process;
 
 // Where the records of a process come from: a table, query, form or report
-// of an Access database.
-class Datasource {
+// of an Access database. Owned through a shared_ptr: a main datasource
+// registers itself with its process while it reads.
+class Datasource : public std::enable_shared_from_this<Datasource> {
 public:
     std::string Type_;       // saved as Type
     std::string Database;    // name of a Database

@@ -28,8 +28,11 @@ inline constexpr std::int32_t Text = 5;
 // them, the documents they pass on, the groups that may use it and fixed
 // field values. Always owned through a shared_ptr (use Create).
 class Process : public std::enable_shared_from_this<Process> {
+    struct Passkey {};
+
 public:
     static std::shared_ptr<Process> Create();
+    explicit Process(Passkey);
     ~Process();
 
     // The one default of AbortOnError and OnErrorNotifyUser.
@@ -95,7 +98,6 @@ public:
     void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Processes>& parent);
 
 private:
-    Process();
     void ReadAttributes(const pugi::xml_node& node);
     void ReadGroups(const pugi::xml_node& node);
     void ReadFieldValues(const pugi::xml_node& node);

@@ -15,8 +15,11 @@ namespace flowloom {
 // Create); Dispose breaks the back references and must be called when the
 // object is given up (the destructor does it too).
 class Processes : public std::enable_shared_from_this<Processes> {
+    struct Passkey {};
+
 public:
     static std::shared_ptr<Processes> Create();
+    explicit Processes(Passkey);
     ~Processes();
 
     // Result of the last load.
@@ -71,7 +74,6 @@ public:
     bool Disposed() const noexcept { return disposed_; }
 
 private:
-    Processes();
     void CheckLoadedDocument();
     bool ReadRoot(const pugi::xml_node& root);
     bool ReadContents(const pugi::xml_node& root);

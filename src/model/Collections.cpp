@@ -1,0 +1,165 @@
+// Groups, Databases, Documents and Datasources: the keyed collections of the
+// model with their readers.
+#include "model/Databases.h"
+#include "model/Datasources.h"
+#include "model/Documents.h"
+#include "model/Groups.h"
+
+#include "app/ReportError.h"
+#include "model/Process.h"
+#include "support/Prompts.h"
+
+namespace flowloom {
+
+namespace {
+
+bool IsDuplicateKey(const VbError& e) { return e.Number() == vberr::DuplicateKey; }
+
+// Adds with a key, ignoring a key that exists; other failures are reported.
+template <typename T>
+void AddIgnoringDuplicate(KeyedCollection<T>& items, const std::shared_ptr<T>& item, std::string_view key,
+                          const CollectionPosition& before, const CollectionPosition& after,
+                          std::string_view module) {
+    if (!item) return;
+    try {
+        items.Add(item, key, before, after);
+    } catch (const VbError& e) {
+        if (!IsDuplicateKey(e)) ReportError(e, module, "Add");
+    } catch (...) {
+        ReportPendingError(module, "Add");
+    }
+}
+
+template <typename T>
+std::shared_ptr<T> ReportedItem(const KeyedCollection<T>& items, const CollectionPosition& position,
+                                std::string_view module) {
+    try {
+        return items.ItemAt(position);
+    } catch (...) {
+        ReportPendingError(module, "Item");
+        return nullptr;
+    }
+}
+
+}  // namespace
+
+// --- Groups
+
+void Groups::Add(const std::shared_ptr<Group>& group, const std::string& key) {
+    AddIgnoringDuplicate(items_, group, key, {}, {}, "Groups");
+}
+
+std::shared_ptr<Group> Groups::Item(const CollectionPosition& position) const {
+    return ReportedItem(items_, position, "Groups");
+}
+
+void Groups::Remove(const CollectionPosition& position) { items_.RemoveAt(position); }
+
+void Groups::LoadElement(const pugi::xml_node& node) {
+    for (const pugi::xml_node& child : node.children()) {
+        if (child.type() != pugi::node_element) continue;
+        auto group = std::make_shared<Group>();
+        group->LoadElement(child);
+        Add(group, group->name);
+    }
+}
+
+// --- Databases
+
+void Databases::Add(const std::shared_ptr<Database>& database, const CollectionPosition& before,
+                    const CollectionPosition& after) {
+    if (!database) return;
+    if (!database->name.empty() && items_.Contains(database->name)) {
+        MsgBox("Database " + database->name + " already exists.", msgbox::Exclamation);
+        return;
+    }
+    try {
+        items_.Add(database, database->name, before, after);
+    } catch (...) {
+        ReportPendingError("Databases", "Add");
+    }
+}
+
+std::shared_ptr<Database> Databases::Item(const CollectionPosition& position) const {
+    return ReportedItem(items_, position, "Databases");
+}
+
+void Databases::Remove(const CollectionPosition& position) { items_.RemoveAt(position); }
+
+void Databases::LoadElement(const pugi::xml_node& node) {
+    for (const pugi::xml_node& child : node.children("Database")) {
+        auto database = std::make_shared<Database>();
+        database->LoadElement(child);
+        Add(database);
+    }
+}
+
+// --- Documents
+
+void Documents::Add(const std::shared_ptr<Document>& document, const std::string& key) {
+    AddIgnoringDuplicate(items_, document, key, {}, {}, "Documents");
+}
+
+std::shared_ptr<Document> Documents::Item(const CollectionPosition& position) const {
+    return ReportedItem(items_, position, "Documents");
+}
+
+void Documents::Remove(const CollectionPosition& position) { items_.RemoveAt(position); }
+
+void Documents::Dispose() {
+    for (const auto& document : items_) document->Dispose();
+    items_.Clear();
+}
+
+void Documents::LoadElement(const pugi::xml_node& node) {
+    for (const pugi::xml_node& child : node.children("Document")) {
+        auto document = std::make_shared<Document>();
+        document->LoadElement(child);
+        Add(document, document->name);
+    }
+}
+
+// --- Datasources
+
+void Datasources::Add(const std::shared_ptr<Datasource>& datasource, const CollectionPosition& before,
+                      const CollectionPosition& after) {
+    if (!datasource) return;
+    AddIgnoringDuplicate(items_, datasource, datasource->name(), before, after, "Datasources");
+}
+
+std::shared_ptr<Datasource> Datasources::Item(const CollectionPosition& position) const {
+    return ReportedItem(items_, position, "Datasources");
+}
+
+void Datasources::Remove(const CollectionPosition& position) { items_.RemoveAt(position); }
+
+std::shared_ptr<Datasource> Datasources::GetMainDataSource(const std::string& name) const {
+    if (items_.Empty()) return nullptr;
+    std::shared_ptr<Datasource> main;
+    if (!name.empty()) main = items_.Find(name);
+    return main ? main : items_.Item(1);
+}
+
+void Datasources::SetMainDataSource(const std::shared_ptr<Datasource>& datasource) {
+    if (!Holds(datasource.get())) Add(datasource);
+}
+
+void Datasources::Dispose() {
+    for (const auto& datasource : items_) datasource->Dispose();
+    items_.Clear();
+}
+
+void Datasources::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+    for (const pugi::xml_node& child : node.children("Datasource")) {
+        try {
+            auto datasource = std::make_shared<Datasource>();
+            datasource->LoadElement(child, process);
+            // Reading a main datasource registers it already: the first of a name wins.
+            if (!items_.Contains(datasource->name())) Add(datasource);
+        } catch (...) {
+            ReportPendingError("Datasources", "LoadElement");
+        }
+    }
+}
+
+}  // namespace flowloom

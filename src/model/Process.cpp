@@ -1,0 +1,175 @@
+#include "model/Process.h"
+
+#include "app/ReportError.h"
+#include "app/TextCompare.h"
+#include "app/VbStrings.h"
+#include "model/Activities.h"
+#include "model/Datasources.h"
+#include "model/Documents.h"
+#include "model/FieldValue.h"
+#include "model/Groups.h"
+#include "model/Processes.h"
+#include "model/xml/XmlDocument.h"
+
+namespace flowloom {
+
+namespace {
+
+std::optional<std::int32_t> ReadWordList(std::string_view text, const char* words) {
+    const std::string trimmed = vb::Trim(text);
+    if (auto number = vb::ToNumber(trimmed)) return vb::CLng(*number);
+    const auto list = vb::Split(words, ";");
+    for (std::size_t i = 0; i < list.size(); ++i)
+        if (EqualsNoCase(trimmed, list[i])) return static_cast<std::int32_t>(i);
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::int32_t> ReadProcessRecords(std::string_view text) {
+    return ReadWordList(text, kProcessRecordsWords);
+}
+
+std::optional<std::int32_t> ReadOverwriteMode(std::string_view text) { return ReadWordList(text, kOverwriteWords); }
+
+std::string WordAt(const char* words, std::int32_t index) {
+    const auto list = vb::Split(words, ";");
+    if (index < 0 || static_cast<std::size_t>(index) >= list.size()) RaiseStandardError(vberr::SubscriptOutOfRange);
+    return list[static_cast<std::size_t>(index)];
+}
+
+std::shared_ptr<FieldValue> ReadFieldValue(const pugi::xml_node& element) {
+    auto fieldValue = std::make_shared<FieldValue>();
+    for (const pugi::xml_attribute& a : element.attributes()) {
+        if (NameIs(a, "Name")) fieldValue->field = a.value();
+        else if (NameIs(a, "Value")) fieldValue->value = vb::Replace(a.value(), "&quot;", "\"");
+    }
+    return fieldValue;
+}
+
+Process::Process(Passkey)
+    : activities_(std::make_shared<flowloom::Activities>()),
+      datasources_(std::make_shared<flowloom::Datasources>()),
+      documents_(std::make_shared<flowloom::Documents>()) {}
+
+std::shared_ptr<Process> Process::Create() {
+    auto process = std::make_shared<Process>(Passkey{});
+    process->activities_->SetProcess(process);
+    return process;
+}
+
+Process::~Process() { Dispose(); }
+
+std::shared_ptr<Datasource> Process::MainDataSource() {
+    if (!mainDataSource_) mainDataSource_ = datasources_ ? datasources_->GetMainDataSource(mainDataSourceName_) : nullptr;
+    return mainDataSource_;
+}
+
+void Process::SetMainDataSource(const std::shared_ptr<Datasource>& datasource) {
+    if (datasources_) datasources_->SetMainDataSource(datasource);
+    mainDataSource_ = datasource;
+    mainDataSourceName_ = datasource ? datasource->name() : std::string();
+}
+
+const std::string& Process::LogDatasourceName() {
+    if (logDatasourceName_.empty()) logDatasourceName_ = mainDataSourceName_;
+    return logDatasourceName_;
+}
+
+std::shared_ptr<flowloom::Groups> Process::Groups() {
+    if (!groups_) groups_ = std::make_shared<flowloom::Groups>();
+    return groups_;
+}
+
+std::shared_ptr<flowloom::FieldValues> Process::FieldValues() {
+    if (!fieldValues_) fieldValues_ = std::make_shared<flowloom::FieldValues>();
+    return fieldValues_;
+}
+
+void Process::AddDocument(const std::shared_ptr<Document>& document) {
+    if (!document) return;
+    if (!addedDocuments_) addedDocuments_ = std::make_unique<KeyedCollection<Document>>();
+    if (document->Object().IsObject()) invokedAppDocuments_.push_back(document->Object().Object());
+    addedDocuments_->Add(document);
+}
+
+std::shared_ptr<Document> Process::DocumentByName(const std::string& name) const {
+    return documents_ ? documents_->Item(CollectionPosition{name}) : nullptr;
+}
+
+void Process::Dispose() {
+    mainDataSource_.reset();
+    if (datasources_) datasources_->Dispose();
+    if (activities_) activities_->Dispose();
+    if (documents_) documents_->Dispose();
+    parent_.reset();
+    invokedAppDocuments_.clear();
+}
+
+void Process::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Processes>& parent) {
+    parent_ = parent;
+    auto self = shared_from_this();
+    ReadAttributes(node);
+    // Children are read in a fixed order whatever their order in the file:
+    // activities need the documents, a main datasource needs the datasources.
+    if (pugi::xml_node child = node.child("Datasources")) {
+        try {
+            datasources_ = std::make_shared<flowloom::Datasources>();
+            datasources_->LoadElement(child, self);
+        } catch (...) {
+            ReportPendingError("Process", "LoadElement");
+        }
+    }
+    if (pugi::xml_node child = node.child("Documents")) {
+        documents_ = std::make_shared<flowloom::Documents>();
+        documents_->LoadElement(child);
+    }
+    if (pugi::xml_node child = node.child("Activities")) {
+        // The new collection is not told its process: the activities get it
+        // from their own reader, and later additions from their caller.
+        activities_ = std::make_shared<flowloom::Activities>();
+        activities_->LoadElement(child, self);
+    }
+    if (pugi::xml_node child = node.child("Groups")) ReadGroups(child);
+    if (pugi::xml_node child = node.child("FieldValues")) ReadFieldValues(child);
+}
+
+void Process::ReadAttributes(const pugi::xml_node& node) {
+    for (const pugi::xml_attribute& a : node.attributes()) {
+        if (NameIs(a, "Name")) name_ = a.value();
+        else if (NameIs(a, "MainDatasourceName")) mainDataSourceName_ = a.value();
+        else if (NameIs(a, "ProcessRecords")) {
+            try {
+                if (auto records = ReadProcessRecords(a.value())) processRecords_ = *records;
+            } catch (...) {
+                // an out-of-range number leaves the value
+            }
+        } else if (NameIs(a, "AbortOnError")) abortOnError_ = vb::ReadBool(a.value());
+        else if (NameIs(a, "OnErrorNotifyUser")) onErrorNotifyUser_ = vb::ReadBool(a.value());
+        else if (NameIs(a, "LogDatasourceName")) logDatasourceName_ = a.value();
+    }
+}
+
+void Process::ReadGroups(const pugi::xml_node& node) {
+    groups_ = std::make_shared<flowloom::Groups>();
+    groups_->LoadElement(node);
+    // Only groups that the file defines may stay.
+    auto parent = parent_.lock();
+    for (std::int32_t i = groups_->Count(); i >= 1; --i) {
+        std::shared_ptr<Group> group = groups_->Item(CollectionPosition{i});
+        std::shared_ptr<Group> known;
+        if (parent && parent->HasGroups() && group) known = parent->Groups()->Find(group->name);
+        if (!known || known->name.empty()) groups_->Remove(CollectionPosition{i});
+    }
+}
+
+void Process::ReadFieldValues(const pugi::xml_node& node) {
+    fieldValues_ = std::make_shared<flowloom::FieldValues>();
+    for (const pugi::xml_node& child : node.children()) {
+        if (child.type() != pugi::node_element) continue;
+        std::shared_ptr<FieldValue> fieldValue = ReadFieldValue(child);
+        if (!fieldValues_->Contains(fieldValue->field)) fieldValues_->Add(fieldValue, fieldValue->field);
+    }
+}
+
+}  // namespace flowloom

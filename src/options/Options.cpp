@@ -1,0 +1,52 @@
+#include "options/Options.h"
+
+#include "app/ReportError.h"
+
+#include <cstring>
+
+namespace flowloom {
+
+namespace {
+
+std::shared_ptr<DictionaryCollection> AttributesOf(const pugi::xml_node& element) {
+    auto attributes = std::make_shared<DictionaryCollection>();
+    for (const pugi::xml_attribute& a : element.attributes())
+        attributes->Add(std::make_shared<CDictionary>(CDictionary{a.name(), std::string(a.value())}), a.name());
+    return attributes;
+}
+
+}  // namespace
+
+void OptionItem::LoadElement(const pugi::xml_node& node) {
+    for (const pugi::xml_attribute& a : node.attributes()) {
+        try {
+            Attributes->Add(std::make_shared<CDictionary>(CDictionary{a.name(), std::string(a.value())}), a.name());
+            // Details of the value, if the element has a child of its name.
+            if (pugi::xml_node details = node.child(a.name())) Properties->Add(AttributesOf(details), a.name());
+        } catch (...) {
+            ReportPendingError("OptionItem", "LoadElement");
+        }
+    }
+}
+
+void Options::Add(const std::shared_ptr<OptionItem>& item, const std::string& key) {
+    if (!item) return;
+    items_.Add(item, key);
+}
+
+void Options::LoadElement(const pugi::xml_node& node) {
+    for (const pugi::xml_node& child : node.children()) {
+        if (child.type() != pugi::node_element) continue;
+        try {
+            auto item = std::make_shared<OptionItem>();
+            const char* colon = std::strchr(child.name(), ':');
+            item->name = colon ? colon + 1 : child.name();  // the base name, without a prefix
+            item->LoadElement(child);
+            Add(item, item->name);
+        } catch (...) {
+            ReportPendingError("Options", "LoadElement");
+        }
+    }
+}
+
+}  // namespace flowloom
