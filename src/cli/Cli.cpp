@@ -1,16 +1,136 @@
 #include "Cli.h"
 
+#include "CliPrompts.h"
+#include "model/Process.h"
+#include "model/Processes.h"
 #include "support/AppPaths.h"
+
+#include <filesystem>
+#include <functional>
+#include <map>
 
 namespace flowloom::cli {
 
-int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
-    if (!args.empty() && args[0] == "--version") {
-        out << "flowloom-cli " << AppVersion() << "\n";
-        return 0;
+namespace {
+
+constexpr int kOk = 0;
+constexpr int kProblem = 1;
+constexpr int kUsage = 2;
+
+const char* const kHelp =
+    "usage: flowloom-cli COMMAND [ARGUMENTS]\n"
+    "\n"
+    "Commands:\n"
+    "  list FILE                 load FILE and print the name of each process\n"
+    "  xml FILE                  load FILE and write the processes file as it would be saved\n"
+    "  save FILE OUT             load FILE and save it as OUT (with a backup of an existing OUT)\n"
+    "  parse-command-line TEXT   parse TEXT as the designer's command line and print\n"
+    "                            xmlfile, process, activeobject and fields, one per line\n"
+    "  --help                    show this text\n"
+    "  --version                 show the version\n"
+    "\n"
+    "Loading works as the designer's Open: a file of an older format version is\n"
+    "converted and written back at once. Message boxes go to stderr as\n"
+    "'message: TEXT', reported errors as 'error NUMBER: DESCRIPTION'.\n"
+    "Exit codes: 0 success, 1 the command ran and found a problem, 2 bad\n"
+    "arguments or a file that could not be read.\n";
+
+struct Context {
+    const std::vector<std::string>& args;
+    std::ostream& out;
+    std::ostream& err;
+    CliPrompts& prompts;
+};
+
+// Loads FILE as the designer's Open does; nullptr (with the reason on
+// stderr) when it could not be read.
+std::shared_ptr<Processes> LoadFile(Context& ctx, const std::string& file, int& status) {
+    auto processes = Processes::Create();
+    const int errorsBefore = ctx.prompts.ErrorCount();
+    processes->Load(file);
+    if (processes->Complete() != Processes::Loaded) {
+        if (!processes->ErrorString().empty())
+            ctx.err << "flowloom-cli: cannot read " << file << ": " << OneLine(processes->ErrorString()) << '\n';
+        else if (ctx.prompts.ErrorCount() == errorsBefore)
+            ctx.err << "flowloom-cli: cannot read " << file << '\n';
+        status = kUsage;
+        return nullptr;
     }
-    err << "usage: flowloom-cli --help\n";
-    return 2;
+    status = ctx.prompts.ErrorCount() == errorsBefore ? kOk : kProblem;
+    return processes;
+}
+
+bool ExpectArgs(Context& ctx, std::size_t count, const char* usage) {
+    if (ctx.args.size() == count + 1) return true;
+    ctx.err << "usage: flowloom-cli " << usage << '\n';
+    return false;
+}
+
+int List(Context& ctx) {
+    if (!ExpectArgs(ctx, 1, "list FILE")) return kUsage;
+    int status = kOk;
+    auto processes = LoadFile(ctx, ctx.args[1], status);
+    if (!processes) return status;
+    for (const auto& process : processes->Snapshot()) ctx.out << process->name() << '\n';
+    return status;
+}
+
+int Xml(Context& ctx) {
+    if (!ExpectArgs(ctx, 1, "xml FILE")) return kUsage;
+    int status = kOk;
+    auto processes = LoadFile(ctx, ctx.args[1], status);
+    if (!processes) return status;
+    ctx.out << processes->XML();
+    return status;
+}
+
+int Save(Context& ctx) {
+    if (!ExpectArgs(ctx, 2, "save FILE OUT")) return kUsage;
+    int status = kOk;
+    auto processes = LoadFile(ctx, ctx.args[1], status);
+    if (!processes) return status;
+    processes->Save(ctx.args[2]);
+    std::error_code ec;
+    return std::filesystem::exists(ctx.args[2], ec) ? status : kProblem;
+}
+
+}  // namespace
+
+int ParseCommandLineCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+
+int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+    if (args.empty()) {
+        err << kHelp;
+        return kUsage;
+    }
+    if (args[0] == "--help" || args[0] == "-h") {
+        out << kHelp;
+        return kOk;
+    }
+    if (args[0] == "--version") {
+        out << "flowloom-cli " << AppVersion() << '\n';
+        return kOk;
+    }
+    CliPrompts prompts(out, err);
+    ScopedPrompts scope(prompts);
+    Context ctx{args, out, err, prompts};
+    static const std::map<std::string, std::function<int(Context&)>> commands = {
+        {"list", List},
+        {"xml", Xml},
+        {"save", Save},
+        {"parse-command-line", [](Context& c) { return ParseCommandLineCommand(c.args, c.out, c.err); }},
+    };
+    auto it = commands.find(args[0]);
+    if (it == commands.end()) {
+        err << "flowloom-cli: unknown command '" << args[0] << "'\n" << kHelp;
+        return kUsage;
+    }
+    try {
+        return it->second(ctx);
+    } catch (const std::exception& e) {
+        err << "flowloom-cli: " << e.what() << '\n';
+        return kUsage;
+    }
 }
 
 }  // namespace flowloom::cli

@@ -1,0 +1,147 @@
+// A process read from its element: datasources, main datasource, groups,
+// field values, and the fragment the designer copies processes with.
+#include "ModelFixture.h"
+
+#include "model/Activities.h"
+#include "model/Datasources.h"
+#include "model/Documents.h"
+#include "model/FieldValue.h"
+#include "model/Groups.h"
+#include "model/Process.h"
+#include "model/xml/CProcessesXMLDoc.h"
+
+namespace flowloom::test {
+namespace {
+
+class ProcessElement : public ModelFixture {
+protected:
+    std::shared_ptr<Process> First(const std::string& body) {
+        processes = LoadText(Document(body));
+        return processes->Item(CollectionPosition{1});
+    }
+    std::shared_ptr<Processes> processes;
+};
+
+TEST_F(ProcessElement, UnknownMainDatasourceNameFallsBackOnTheFirst) {
+    auto process = First(R"(<Process Name="p" MainDatasourceName="Nope"><Datasources>)"
+                         R"(<Datasource Name="A"/><Datasource Name="B"/></Datasources></Process>)");
+    ASSERT_NE(process, nullptr);
+    EXPECT_EQ(process->MainDataSource()->name(), "A");
+    EXPECT_EQ(process->MainDataSourceName(), "Nope");
+}
+
+TEST_F(ProcessElement, WithoutDatasourcesThereIsNoMainOne) {
+    auto process = First(R"(<Process Name="p" MainDatasourceName="A"/>)");
+    EXPECT_EQ(process->MainDataSource(), nullptr);
+    EXPECT_EQ(process->LogDatasourceName(), "A");  // falls back and keeps it
+    process->SetMainDataSourceName("B");
+    EXPECT_EQ(process->LogDatasourceName(), "A");
+}
+
+TEST_F(ProcessElement, MainDatasourceIsHeldOnceAndItsRecordsWinOverTheProcess) {
+    auto process = First(R"(<Process Name="p" MainDatasourceName="b" ProcessRecords="Selected"><Datasources>)"
+                         R"(<Datasource Name="A"/><Datasource Name="B" Records="All"/><Datasource Name="b"/>)"
+                         R"(</Datasources></Process>)");
+    EXPECT_EQ(process->Datasources()->Count(), 2);
+    EXPECT_EQ(process->MainDataSource()->name(), "B");
+    EXPECT_EQ(process->ProcessRecords(), 1);
+}
+
+TEST_F(ProcessElement, DerivedDatasourceNameIsWrittenButMakesNoMainDatasource) {
+    auto process = First(R"(<Process Name="p" MainDatasourceName="Orders" ProcessRecords="Current"><Datasources>)"
+                         R"(<Datasource ObjectName="Orders" Records="All"/></Datasources></Process>)");
+    EXPECT_EQ(process->ProcessRecords(), 0);  // a derived name takes no part
+    EXPECT_EQ(process->Datasources()->Item(CollectionPosition{1})->name(), "Orders");
+    EXPECT_NE(ProcessFragmentXml(*process).find(R"(<Datasource Name="Orders" ObjectName="Orders" Records="All"/>)"),
+              std::string::npos);
+}
+
+TEST_F(ProcessElement, ProcessRecordsReadsWordsNumbersAndIgnoresOthers) {
+    EXPECT_EQ(First(R"(<Process Name="p" ProcessRecords=" selected "/>)")->ProcessRecords(), 2);
+    EXPECT_EQ(First(R"(<Process Name="p" ProcessRecords="1"/>)")->ProcessRecords(), 1);
+    EXPECT_EQ(First(R"(<Process Name="p" ProcessRecords="Some"/>)")->ProcessRecords(), 0);
+    EXPECT_EQ(First(R"(<Process Name="p"/>)")->ProcessRecords(), 0);
+}
+
+TEST_F(ProcessElement, BooleansFollowTheFileRule) {
+    auto process = First(R"(<Process Name="p" abortonerror="False" OnErrorNotifyUser="0"/>)");
+    EXPECT_FALSE(process->AbortOnError());
+    EXPECT_FALSE(process->OnErrorNotifyUser());
+    process = First(R"(<Process Name="p" AbortOnError="5" OnErrorNotifyUser="True"/>)");
+    EXPECT_TRUE(process->AbortOnError());
+    EXPECT_TRUE(process->OnErrorNotifyUser());
+    process = First(R"(<Process Name="p" AbortOnError="yes"/>)");
+    EXPECT_FALSE(process->AbortOnError());
+}
+
+TEST_F(ProcessElement, UndefinedGroupsAreDroppedAndStayGoneOnSave) {
+    processes = LoadText(Document(R"(<Process Name="p"><Groups><Group Name="Office"/><Group Name="Ghost"/>)"
+                                  R"(</Groups></Process><Groups><Group Name="OFFICE"/></Groups>)"));
+    auto process = processes->Item(CollectionPosition{1});
+    ASSERT_EQ(process->Groups()->Count(), 1);
+    EXPECT_EQ(process->Groups()->Item(CollectionPosition{1})->name, "Office");
+    EXPECT_EQ(processes->XML().find("Ghost"), std::string::npos);
+}
+
+TEST_F(ProcessElement, GroupsContainerStaysWhenNoGroupIsKnownAnyMore) {
+    processes = LoadText(Document(R"(<Process Name="p"><Groups><Group Name="Office"/></Groups></Process>)"
+                                  R"(<Groups><Group Name="Office"/></Groups>)"));
+    processes->Groups()->Remove(CollectionPosition{1});
+    EXPECT_NE(processes->XML().find(R"(<Process Name="p" ProcessRecords="Current"><Groups/></Process>)"),
+              std::string::npos);
+}
+
+TEST_F(ProcessElement, DuplicateFieldValuesAreDroppedWithoutAWord) {
+    auto process = First(R"(<Process Name="p"><FieldValues><FieldValue Name="A" Value="1"/>)"
+                         R"(<FieldValue Name="a" Value="2"/></FieldValues></Process>)");
+    ASSERT_EQ(process->FieldValues()->Count(), 1);
+    EXPECT_EQ(process->FieldValues()->Item(CollectionPosition{1})->value, "1");
+    EXPECT_TRUE(prompts.errors.empty());
+    EXPECT_TRUE(prompts.boxes.empty());
+}
+
+TEST_F(ProcessElement, ChildrenAreReadInTheirOwnOrderWhateverTheFileSays) {
+    auto process = First(R"(<Process Name="p" MainDatasourceName="D"><FieldValues><FieldValue Name="F"/></FieldValues>)"
+                         R"(<Documents><Document Name="Doc"/></Documents><Datasources><Datasource Name="D"/></Datasources>)"
+                         R"(</Process>)");
+    EXPECT_EQ(process->Datasources()->Count(), 1);
+    EXPECT_EQ(process->Documents()->Count(), 1);
+    EXPECT_EQ(ProcessFragmentXml(*process),
+              // LogDatasourceName is set after the children: it stands last.
+              R"(<Process Name="p" MainDatasourceName="D" ProcessRecords="Current" LogDatasourceName="D">)"
+              R"(<Datasources><Datasource Name="D"/></Datasources><Documents><Document Name="Doc"/></Documents>)"
+              R"(<FieldValues><FieldValue Name="F"/></FieldValues></Process>)");
+}
+
+TEST_F(ProcessElement, CopyThroughTheFragmentGivesAnEqualFragment) {
+    processes = LoadText(ReadAll(SourceDir() / "tests/data/every_element.xml"));
+    for (const auto& original : processes->Snapshot()) {
+        const std::string fragment = ProcessFragmentXml(*original);
+        pugi::xml_document copyDoc;
+        ASSERT_TRUE(copyDoc.load_string(fragment.c_str()));
+        auto copy = Process::Create();
+        copy->LoadElement(copyDoc.document_element(), processes);
+        EXPECT_EQ(ProcessFragmentXml(*copy), fragment);
+    }
+}
+
+TEST_F(ProcessElement, RemovingTheLastDatasourceKeepsTheCachedMainOne) {
+    auto process = First(R"(<Process Name="p" MainDatasourceName="D"><Datasources><Datasource Name="D"/>)"
+                         R"(</Datasources></Process>)");
+    auto main = process->MainDataSource();
+    process->Datasources()->Remove(CollectionPosition{1});
+    EXPECT_EQ(process->MainDataSource(), main);
+}
+
+TEST_F(ProcessElement, DisposeBreaksTheBackReferences) {
+    auto process = First(R"(<Process Name="p" MainDatasourceName="D"><Datasources><Datasource Name="D"/>)"
+                         R"(</Datasources></Process>)");
+    auto datasource = process->Datasources()->Item(CollectionPosition{1});
+    EXPECT_EQ(datasource->ParentProcess(), process);
+    processes->Dispose();
+    EXPECT_EQ(datasource->ParentProcess(), nullptr);
+    EXPECT_EQ(process->Parent(), nullptr);
+}
+
+}  // namespace
+}  // namespace flowloom::test
