@@ -47,6 +47,7 @@ struct Context {
 std::shared_ptr<Processes> LoadFile(Context& ctx, const std::string& file, int& status) {
     auto processes = Processes::Create();
     const int errorsBefore = ctx.prompts.ErrorCount();
+    const int messagesBefore = ctx.prompts.MessageCount();
     processes->Load(file);
     if (processes->Complete() != Processes::Loaded) {
         if (!processes->ErrorString().empty())
@@ -56,7 +57,8 @@ std::shared_ptr<Processes> LoadFile(Context& ctx, const std::string& file, int& 
         status = kUsage;
         return nullptr;
     }
-    status = ctx.prompts.ErrorCount() == errorsBefore ? kOk : kProblem;
+    const bool quiet = ctx.prompts.ErrorCount() == errorsBefore && ctx.prompts.MessageCount() == messagesBefore;
+    status = quiet ? kOk : kProblem;
     return processes;
 }
 

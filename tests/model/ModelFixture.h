@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ScriptedPrompts.h"
-#include "TempFolder.h"
+#include "testsupport/ScriptedPrompts.h"
+#include "testsupport/TempFolder.h"
 #include "model/Processes.h"
 #include "support/AppPaths.h"
 

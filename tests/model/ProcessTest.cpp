@@ -42,9 +42,11 @@ TEST_F(ProcessElement, MainDatasourceIsHeldOnceAndItsRecordsWinOverTheProcess) {
     auto process = First(R"(<Process Name="p" MainDatasourceName="b" ProcessRecords="Selected"><Datasources>)"
                          R"(<Datasource Name="A"/><Datasource Name="B" Records="All"/><Datasource Name="b"/>)"
                          R"(</Datasources></Process>)");
-    EXPECT_EQ(process->Datasources()->Count(), 2);
-    EXPECT_EQ(process->MainDataSource()->name(), "B");
-    EXPECT_EQ(process->ProcessRecords(), 1);
+    EXPECT_EQ(process->Datasources()->Count(), 2);  // the second "b" is not added
+    EXPECT_EQ(process->Datasources()->Item(CollectionPosition{2})->name(), "B");
+    EXPECT_EQ(process->ProcessRecords(), 1);  // from B; "b" has no Records of its own
+    // The later "b" still claims to be the main one, although it is in no collection.
+    EXPECT_EQ(process->MainDataSource()->name(), "b");
 }
 
 TEST_F(ProcessElement, DerivedDatasourceNameIsWrittenButMakesNoMainDatasource) {
@@ -95,7 +97,7 @@ TEST_F(ProcessElement, DuplicateFieldValuesAreDroppedWithoutAWord) {
     auto process = First(R"(<Process Name="p"><FieldValues><FieldValue Name="A" Value="1"/>)"
                          R"(<FieldValue Name="a" Value="2"/></FieldValues></Process>)");
     ASSERT_EQ(process->FieldValues()->Count(), 1);
-    EXPECT_EQ(process->FieldValues()->Item(CollectionPosition{1})->value, "1");
+    EXPECT_EQ(process->FieldValues()->Item(1)->value, "1");
     EXPECT_TRUE(prompts.errors.empty());
     EXPECT_TRUE(prompts.boxes.empty());
 }

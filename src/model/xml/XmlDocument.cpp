@@ -12,16 +12,6 @@ namespace flowloom {
 namespace {
 
 constexpr unsigned kParseOptions = pugi::parse_default | pugi::parse_declaration;
-constexpr unsigned kFormat = pugi::format_raw;
-
-class StringWriter : public pugi::xml_writer {
-public:
-    explicit StringWriter(std::string& out) : out_(out) {}
-    void write(const void* data, size_t size) override { out_.append(static_cast<const char*>(data), size); }
-
-private:
-    std::string& out_;
-};
 
 const char* ReasonText(pugi::xml_parse_status status) {
     switch (status) {
@@ -102,10 +92,117 @@ void XmlDocument::Save(const std::filesystem::path& path) const {
     if (!out) RaiseStandardError(61);  // disk full
 }
 
+namespace {
+
+// Escapes for attribute values: the markup characters as entities, control
+// characters (line breaks, tabs) as character references, so that every
+// value survives a round trip unchanged.
+void AppendEscaped(std::string& out, const char* text, bool attribute) {
+    for (const char* p = text; *p; ++p) {
+        const unsigned char c = static_cast<unsigned char>(*p);
+        switch (c) {
+        case '&': out += "&amp;"; break;
+        case '<': out += "&lt;"; break;
+        case '>': out += "&gt;"; break;
+        case '"':
+            if (attribute) out += "&quot;";
+            else out += '"';
+            break;
+        default:
+            if (c < 0x20 && (attribute || (c != '\n' && c != '\t' && c != '\r'))) {
+                out += "&#";
+                out += std::to_string(c);
+                out += ';';
+            } else {
+                out += static_cast<char>(c);
+            }
+        }
+    }
+}
+
+void AppendAttributes(std::string& out, const pugi::xml_node& node) {
+    for (const pugi::xml_attribute& a : node.attributes()) {
+        out += ' ';
+        out += a.name();
+        out += "=\"";
+        AppendEscaped(out, a.value(), true);
+        out += '"';
+    }
+}
+
+void AppendNode(std::string& out, const pugi::xml_node& node);
+
+void AppendChildren(std::string& out, const pugi::xml_node& node) {
+    for (const pugi::xml_node& child : node.children()) AppendNode(out, child);
+}
+
+void AppendElement(std::string& out, const pugi::xml_node& node) {
+    out += '<';
+    out += node.name();
+    AppendAttributes(out, node);
+    if (!node.first_child()) {
+        out += "/>";
+        return;
+    }
+    out += '>';
+    AppendChildren(out, node);
+    out += "</";
+    out += node.name();
+    out += '>';
+}
+
+void AppendNode(std::string& out, const pugi::xml_node& node) {
+    switch (node.type()) {
+    case pugi::node_document: AppendChildren(out, node); break;
+    case pugi::node_element: AppendElement(out, node); break;
+    case pugi::node_declaration:
+        out += "<?";
+        out += node.name();
+        AppendAttributes(out, node);
+        out += "?>";
+        break;
+    case pugi::node_pi:
+        out += "<?";
+        out += node.name();
+        if (*node.value()) {
+            out += ' ';
+            out += node.value();
+        }
+        out += "?>";
+        break;
+    case pugi::node_pcdata: AppendEscaped(out, node.value(), false); break;
+    case pugi::node_cdata:
+        out += "<![CDATA[";
+        out += node.value();
+        out += "]]>";
+        break;
+    case pugi::node_comment:
+        out += "<!--";
+        out += node.value();
+        out += "-->";
+        break;
+    case pugi::node_doctype:
+        out += "<!DOCTYPE ";
+        out += node.value();
+        out += '>';
+        break;
+    default: break;
+    }
+}
+
+std::size_t EstimateSize(const pugi::xml_node& node) {
+    // A cheap guess that avoids most reallocations of large documents.
+    std::size_t elements = 0;
+    for (pugi::xml_node n = node.first_child(); n && elements < 64; n = n.next_sibling()) ++elements;
+    return elements * 256;
+}
+
+}  // namespace
+
 std::string SerializeNode(const pugi::xml_node& node) {
     std::string out;
-    StringWriter writer(out);
-    node.print(writer, "", kFormat | pugi::format_no_declaration, pugi::encoding_utf8);
+    out.reserve(EstimateSize(node));
+    AppendNode(out, node);
     return out;
 }
 

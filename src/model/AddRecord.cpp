@@ -1,0 +1,57 @@
+#include "model/AddRecord.h"
+
+#include "app/ReportError.h"
+#include "app/VbStrings.h"
+#include "model/FieldValue.h"
+#include "model/Process.h"
+#include "model/xml/XmlDocument.h"
+
+namespace flowloom {
+
+const std::string& AddRecord::DatasourceName() {
+    if (datasourceName_.empty())
+        if (auto process = ParentProcess()) datasourceName_ = process->MainDataSourceName();
+    return datasourceName_;
+}
+
+std::shared_ptr<flowloom::FieldValues> AddRecord::FieldValues() {
+    if (!fieldValues_) fieldValues_ = std::make_shared<flowloom::FieldValues>();
+    return fieldValues_;
+}
+
+void AddRecord::Dispose() {
+    fieldValues_.reset();
+    datasource_.reset();
+    Activity::Dispose();
+}
+
+void AddRecord::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+    SetParentProcess(process);
+    for (const pugi::xml_attribute& a : node.attributes()) {
+        if (NameIs(a, "Database")) database_ = a.value();
+        else if (NameIs(a, "TableName")) tablename_ = a.value();
+        else if (NameIs(a, "Description")) SetDescription(a.value());
+        else if (NameIs(a, "DatasourceName")) datasourceName_ = a.value();
+    }
+    pugi::xml_node values = node.child("FieldValues");
+    if (!values) return;
+    fieldValues_ = std::make_shared<flowloom::FieldValues>();
+    for (const pugi::xml_node& child : values.children()) {
+        if (child.type() != pugi::node_element) continue;
+        try {
+            auto fieldValue = ReadFieldValue(child);
+            fieldValues_->Add(fieldValue, fieldValue->field);  // a second of one name is reported
+        } catch (...) {
+            ReportPendingError("AddRecord", "LoadElement");
+        }
+    }
+}
+
+std::string EncloseInBrackets(const std::string& name) {
+    std::string text = vb::Trim(name);
+    if (text.empty() || text.front() != '[') text.insert(text.begin(), '[');
+    if (text.back() != ']') text.push_back(']');
+    return text;
+}
+
+}  // namespace flowloom

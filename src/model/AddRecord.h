@@ -1,0 +1,43 @@
+#pragma once
+
+#include "model/Activity.h"
+#include "model/Forward.h"
+
+#include <memory>
+#include <string>
+
+namespace flowloom {
+
+// Adds a record to a table, for instance to log what was sent.
+class AddRecord : public Activity {
+public:
+    std::string ActivityType() const override { return "AddRecord"; }
+
+    // Falls back on the process's main datasource and keeps it.
+    const std::string& DatasourceName();
+    void SetDatasourceName(std::string value) { datasourceName_ = std::move(value); }
+    // Never gives an object back, as for a MailMerge.
+    std::shared_ptr<flowloom::Datasource> Datasource() const { return nullptr; }
+    void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) { datasource_ = std::move(datasource); }
+    std::shared_ptr<flowloom::FieldValues> FieldValues();  // created on first read
+    bool HasFieldValues() const noexcept { return fieldValues_ != nullptr; }
+    const std::string& Database() const noexcept { return database_; }
+    void SetDatabase(std::string value) { database_ = std::move(value); }
+    const std::string& Tablename() const noexcept { return tablename_; }
+    void SetTablename(std::string value) { tablename_ = std::move(value); }
+
+    void Dispose() override;
+    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
+
+private:
+    std::string datasourceName_;
+    std::shared_ptr<flowloom::Datasource> datasource_;
+    std::shared_ptr<flowloom::FieldValues> fieldValues_;
+    std::string database_;
+    std::string tablename_;
+};
+
+// "[name]": trimmed, with the brackets it lacks.
+std::string EncloseInBrackets(const std::string& name);
+
+}  // namespace flowloom

@@ -1,0 +1,29 @@
+#include "model/FileTarget.h"
+
+#include "app/VbStrings.h"
+
+namespace flowloom {
+
+void FileTarget::SetFolder(const std::string& folder) {
+    folder_ = vb::RTrim(folder);
+    rawFolder_ = folder;
+}
+
+void FileTarget::SetFile(const std::string& file) {
+    file_ = file;
+    rawFile_ = file;
+}
+
+void FileTarget::SetFullName(const TaggedValue& fullName) {
+    if (fullName.IsObject()) return;
+    fullName_ = fullName;
+    rawFullName_ = fullName.Text();
+}
+
+std::string FileTarget::JoinedFullName() const {
+    if (HasFullName()) return fullName_.Text();
+    if (!folder_.empty() && folder_.back() == '\\') return folder_ + file_;
+    return folder_ + "\\" + file_;
+}
+
+}  // namespace flowloom

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "app/TaggedValue.h"
+
+#include <string>
+
+namespace flowloom {
+
+// Where an activity writes or finds its file: Folder, File and FullName,
+// each with the text as it was set (the raw value), which is what the file
+// keeps; the full name read derives from folder and file when none is set.
+class FileTarget {
+public:
+    // Trailing blanks removed; the raw folder keeps the text as given.
+    void SetFolder(const std::string& folder);
+    void SetFile(const std::string& file);
+    // A value that is an object is ignored.
+    void SetFullName(const TaggedValue& fullName);
+
+    const std::string& Folder() const noexcept { return folder_; }
+    const std::string& File() const noexcept { return file_; }
+    const TaggedValue& StoredFullName() const noexcept { return fullName_; }
+    bool HasFullName() const { return !fullName_.IsEmpty() && !fullName_.Text().empty(); }
+    // The stored full name, else folder and file joined with one backslash.
+    std::string JoinedFullName() const;
+
+    const std::string& RawFolder() const noexcept { return rawFolder_; }
+    const std::string& RawFile() const noexcept { return rawFile_; }
+    const std::string& RawFullName() const noexcept { return rawFullName_; }
+    void SetRawFolder(std::string value) { rawFolder_ = std::move(value); }
+    void SetRawFile(std::string value) { rawFile_ = std::move(value); }
+    void SetRawFullName(std::string value) { rawFullName_ = std::move(value); }
+
+private:
+    std::string folder_;
+    std::string file_;
+    TaggedValue fullName_;
+    std::string rawFolder_;
+    std::string rawFile_;
+    std::string rawFullName_;
+};
+
+// The overwrite mode of a target file (0 "Yes", 1 "Confirm", 2 "No"), with
+// the mark that it was ever set: only then does the file hold it.
+class OverwriteMode {
+public:
+    explicit OverwriteMode(std::int32_t initial) : value_(initial) {}
+    std::int32_t Value() const noexcept { return value_; }
+    void Set(std::int32_t value) {
+        value_ = value;
+        set_ = true;
+    }
+    bool WasSet() const noexcept { return set_; }
+
+private:
+    std::int32_t value_;
+    bool set_ = false;
+};
+
+}  // namespace flowloom

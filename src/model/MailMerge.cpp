@@ -1,0 +1,70 @@
+#include "model/MailMerge.h"
+
+#include "app/ReportError.h"
+#include "app/VbStrings.h"
+#include "model/ActivityDocuments.h"
+#include "model/Datasource.h"
+#include "model/Document.h"
+#include "model/xml/XmlDocument.h"
+
+namespace flowloom {
+
+std::vector<std::string>& MailMerge::Pictures() {
+    if (!pictures_) pictures_ = std::make_unique<std::vector<std::string>>();
+    return *pictures_;
+}
+
+const std::string& MailMerge::DatasourceName() {
+    if (datasourceName_.empty() && datasource_) datasourceName_ = datasource_->name();
+    return datasourceName_;
+}
+
+void MailMerge::SetOutputDocumentName(const std::string& name) {
+    try {
+        RenameOutputDocument(ParentProcess(), outputDocumentName_, name);
+    } catch (...) {
+        // without a process the documents cannot follow; the name is kept all the same
+    }
+    outputDocumentName_ = name;
+}
+
+const std::string& MailMerge::InvokedApplication() {
+    if (invokedApplication_.empty()) invokedApplication_ = "Microsoft Word";
+    return invokedApplication_;
+}
+
+void MailMerge::Dispose() {
+    try {
+        pictures_.reset();
+        outputDocument_.reset();
+        datasource_.reset();
+        Activity::Dispose();
+    } catch (...) {
+    }
+}
+
+void MailMerge::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+    SetParentProcess(process);
+    for (const pugi::xml_attribute& a : node.attributes()) {
+        try {
+            if (NameIs(a, "InvokedApplication")) invokedApplication_ = a.value();
+            else if (NameIs(a, "Template")) template_ = a.value();
+            else if (NameIs(a, "OutputDocumentName")) {
+                SetOutputDocumentName(a.value());
+                AddDocumentNamed(process, a.value());
+            } else if (NameIs(a, "ShowDocument")) showDocument_ = vb::ReadBool(a.value());
+            else if (NameIs(a, "InsertPagebreak")) insertPagebreak_ = vb::ReadBool(a.value());
+            else if (NameIs(a, "MailMergeType")) {
+                if (auto n = vb::ToNumber(a.value())) mailMergeType_ = vb::CLng(*n);
+            } else if (NameIs(a, "DatasourceName")) datasourceName_ = a.value();
+            else if (NameIs(a, "Description")) SetDescription(a.value());
+            else if (NameIs(a, "PrecededBy")) precededBy_ = a.value();
+            else if (NameIs(a, "SucceededBy")) succeededBy_ = a.value();
+            else if (NameIs(a, "Iteration")) iteration_ = a.value();
+        } catch (...) {
+            ReportPendingError("MailMerge", "LoadElement");
+        }
+    }
+}
+
+}  // namespace flowloom

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "model/Activity.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace flowloom {
+
+class Datasource;
+class Document;
+
+// Creates a document from a template and a datasource.
+class MailMerge : public Activity {
+public:
+    std::string ActivityType() const override { return "MailMerge"; }
+
+    std::vector<std::string>& Pictures();  // created on first read
+
+    const std::string& Iteration() const noexcept { return iteration_; }
+    void SetIteration(std::string value) { iteration_ = std::move(value); }
+    const std::string& PrecededBy() const noexcept { return precededBy_; }
+    void SetPrecededBy(std::string value) { precededBy_ = std::move(value); }
+    const std::string& SucceededBy() const noexcept { return succeededBy_; }
+    void SetSucceededBy(std::string value) { succeededBy_ = std::move(value); }
+    bool InsertPagebreak() const noexcept { return insertPagebreak_; }
+    void SetInsertPagebreak(bool value) { insertPagebreak_ = value; }
+    // 0 Document, 1 Listing, 2 Labels, 3 Email, 4 Directory, 5 Envelope.
+    std::int32_t MailMergeType() const noexcept { return mailMergeType_; }
+    void SetMailMergeType(std::int32_t value) { mailMergeType_ = value; }
+
+    // Never gives an object back: code that asks goes by DatasourceName.
+    std::shared_ptr<flowloom::Datasource> Datasource() const { return nullptr; }
+    void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) { datasource_ = std::move(datasource); }
+    // Falls back on the held datasource's name.
+    const std::string& DatasourceName();
+    void SetDatasourceName(std::string value) { datasourceName_ = std::move(value); }
+
+    std::shared_ptr<Document> OutputDocument() const { return outputDocument_; }
+    const std::string& OutputDocumentName() const noexcept { return outputDocumentName_; }
+    // Keeps the process's documents in step with the new name.
+    void SetOutputDocumentName(const std::string& name);
+
+    // "Microsoft Word" when empty, and kept.
+    const std::string& InvokedApplication();
+    void SetInvokedApplication(std::string value) { invokedApplication_ = std::move(value); }
+    const std::string& Template() const noexcept { return template_; }
+    void SetTemplate(std::string value) { template_ = std::move(value); }
+    bool ShowDocument() const noexcept { return showDocument_; }
+    void SetShowDocument(bool value) { showDocument_ = value; }
+
+    void Dispose() override;
+    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
+    std::optional<std::string> ProducedDocumentName() override { return outputDocumentName_; }
+
+private:
+    std::unique_ptr<std::vector<std::string>> pictures_;
+    std::string iteration_;
+    std::string precededBy_;
+    std::string succeededBy_;
+    bool insertPagebreak_ = true;
+    std::int32_t mailMergeType_ = 0;
+    std::shared_ptr<flowloom::Datasource> datasource_;
+    std::string datasourceName_;
+    std::shared_ptr<Document> outputDocument_;
+    std::string outputDocumentName_;
+    std::string invokedApplication_;
+    std::string template_;
+    bool showDocument_ = true;
+};
+
+}  // namespace flowloom

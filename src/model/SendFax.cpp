@@ -1,0 +1,29 @@
+#include "model/SendFax.h"
+
+#include "app/ErrorNumbers.h"
+#include "model/ActivityDocuments.h"
+#include "model/Document.h"
+#include "model/xml/XmlDocument.h"
+
+namespace flowloom {
+
+std::shared_ptr<Document> SendFax::InputDocument() {
+    return ResolveInputDocument(inputDocument_, inputDocumentName_, ParentProcess(), errnum::DocumentNotCreatedSendFax);
+}
+
+void SendFax::Dispose() {
+    inputDocument_.reset();
+    Activity::Dispose();
+}
+
+void SendFax::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+    SetParentProcess(process);
+    for (const pugi::xml_attribute& a : node.attributes()) {
+        if (NameIs(a, "InputDocumentName")) inputDocumentName_ = a.value();
+        else if (NameIs(a, "Subject")) subject_ = a.value();
+        else if (NameIs(a, "Address")) address_ = a.value();
+        else if (NameIs(a, "Description")) SetDescription(a.value());
+    }
+}
+
+}  // namespace flowloom

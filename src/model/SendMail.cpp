@@ -1,0 +1,111 @@
+#include "model/SendMail.h"
+
+#include "app/ReportError.h"
+#include "app/VbStrings.h"
+#include "model/ActivityDocuments.h"
+#include "model/Document.h"
+#include "model/List.h"
+#include "model/Process.h"
+#include "model/xml/XmlDocument.h"
+
+namespace flowloom {
+
+namespace {
+
+std::string RecipientsText(const std::string& fixed, const std::shared_ptr<List>& list) {
+    if (!fixed.empty()) return fixed;
+    return list ? list->ValueList() : std::string();
+}
+
+std::shared_ptr<List> ListOf(const std::string& text) {
+    auto list = std::make_shared<List>();
+    list->SetValueList(text);
+    return list;
+}
+
+}  // namespace
+
+SendMail::SendMail() : attachments_(std::make_shared<flowloom::Attachments>()) {}
+
+const std::string& SendMail::DatasourceName() {
+    if (datasourceName_.empty())
+        if (auto process = ParentProcess()) datasourceName_ = process->MainDataSourceName();
+    return datasourceName_;
+}
+
+std::shared_ptr<Document> SendMail::InputDocument() {
+    return ResolveInputDocument(inputDocument_, inputDocumentName_, ParentProcess(), 0);
+}
+
+void SendMail::SetOutputDocumentName(const std::string& name) {
+    try {
+        RenameOutputDocument(ParentProcess(), outputDocumentName_, name);
+    } catch (...) {
+    }
+    outputDocumentName_ = name;
+}
+
+std::string SendMail::RecipientsToText() const { return RecipientsText(recipientsTo_, to_); }
+std::string SendMail::RecipientsCCText() const { return RecipientsText(recipientsCC_, cc_); }
+std::string SendMail::RecipientsBCCText() const { return RecipientsText(recipientsBCC_, bcc_); }
+
+void SendMail::AddAttachment(const std::string& name) {
+    try {
+        attachments_->Add(std::make_shared<CDictionary>(CDictionary{name, {}}), name);
+    } catch (...) {
+        ReportPendingError("SendMail", "AddAttachment");
+    }
+}
+
+void SendMail::Dispose() {
+    attachments_ = std::make_shared<flowloom::Attachments>();
+    to_.reset();
+    cc_.reset();
+    bcc_.reset();
+    inputDocument_.reset();
+    outputDocument_.reset();
+    Activity::Dispose();
+}
+
+void SendMail::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+    SetParentProcess(process);
+    for (const pugi::xml_attribute& a : node.attributes()) {
+        try {
+            const std::string value = a.value();
+            if (NameIs(a, "InputDocumentName")) inputDocumentName_ = value;
+            else if (NameIs(a, "OutputDocumentName")) {
+                SetOutputDocumentName(value);
+                AddDocumentNamed(process, value);
+            } else if (NameIs(a, "Folder")) SetFolder(value);
+            else if (NameIs(a, "File")) SetFile(value);
+            else if (NameIs(a, "FullName")) SetFullName(TaggedValue(value));
+            else if (NameIs(a, "Subject")) subject_ = value;
+            else if (NameIs(a, "Body")) body_ = value;
+            else if (NameIs(a, "Description")) SetDescription(value);
+            else if (NameIs(a, "DatasourceName")) datasourceName_ = value;
+            else if (NameIs(a, "SMTPServer")) SMTPServer = value;
+            else if (NameIs(a, "SMTPServerPort")) SMTPServerPort = value;
+            else if (NameIs(a, "SendUsername")) SendUsername = value;
+            else if (NameIs(a, "SendPassword")) SendPassword = value;
+            else if (NameIs(a, "From")) From = value;
+            else if (NameIs(a, "Charset")) Charset = value;
+            else if (NameIs(a, "To")) to_ = ListOf(value);
+            else if (NameIs(a, "CC")) cc_ = ListOf(value);
+            else if (NameIs(a, "BCC")) bcc_ = ListOf(value);
+            else if (NameIs(a, "SendMethod")) {
+                if (auto n = vb::ToNumber(value)) sendMethod_ = vb::CLng(*n);
+            } else if (NameIs(a, "MailApplication")) {
+                if (auto n = vb::ToNumber(value)) mailApplication_ = vb::CLng(*n);
+            }
+        } catch (...) {
+            // a single attribute that fails is skipped
+        }
+    }
+    // Each attachment is the value of its element's first attribute, whatever its name.
+    for (const pugi::xml_node& child : node.child("Attachments").children()) {
+        if (child.type() != pugi::node_element) continue;
+        if (pugi::xml_attribute first = child.first_attribute()) AddAttachment(first.value());
+    }
+}
+
+}  // namespace flowloom

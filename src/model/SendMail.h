@@ -1,0 +1,99 @@
+#pragma once
+
+#include "app/CDictionary.h"
+#include "app/KeyedCollection.h"
+#include "model/Activity.h"
+#include "model/FileTarget.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace flowloom {
+
+class Document;
+class List;
+
+using Attachments = KeyedCollection<CDictionary>;
+
+// Sends a document produced earlier, or a message of its own, by mail.
+class SendMail : public Activity {
+public:
+    SendMail();
+    std::string ActivityType() const override { return "SendMail"; }
+
+    // Falls back on the process's main datasource and keeps it.
+    const std::string& DatasourceName();
+    void SetDatasourceName(std::string value) { datasourceName_ = std::move(value); }
+    // 0 Default, 1 Outlook, 2 CDO, 3 Groupwise.
+    std::int32_t MailApplication() const noexcept { return mailApplication_; }
+    void SetMailApplication(std::int32_t value) { mailApplication_ = value; }
+    // 0 Send, 1 Display, 2 Draft.
+    std::int32_t SendMethod() const noexcept { return sendMethod_; }
+    void SetSendMethod(std::int32_t value) { sendMethod_ = value; }
+
+    std::string SMTPServer, SendUsername, SendPassword, SMTPServerPort, From, Charset;
+
+    std::shared_ptr<Document> InputDocument();  // empty when it does not resolve; no error
+    void SetInputDocument(std::shared_ptr<Document> document) { inputDocument_ = std::move(document); }
+    std::shared_ptr<Document> OutputDocument() const { return outputDocument_; }
+    const std::string& InputDocumentName() const noexcept { return inputDocumentName_; }
+    void SetInputDocumentName(std::string value) { inputDocumentName_ = std::move(value); }
+    const std::string& OutputDocumentName() const noexcept { return outputDocumentName_; }
+    void SetOutputDocumentName(const std::string& name);
+
+    FileTarget& Target() noexcept { return target_; }
+    const FileTarget& Target() const noexcept { return target_; }
+    const std::string& Folder() const noexcept { return target_.Folder(); }
+    void SetFolder(const std::string& value) { target_.SetFolder(value); }
+    const std::string& File() const noexcept { return target_.File(); }
+    void SetFile(const std::string& value) { target_.SetFile(value); }
+    std::string FullName() const { return target_.JoinedFullName(); }
+    void SetFullName(const TaggedValue& value) { target_.SetFullName(value); }
+
+    std::shared_ptr<List> To_() const { return to_; }
+    void SetTo_(std::shared_ptr<List> list) { to_ = std::move(list); }
+    std::shared_ptr<List> CC() const { return cc_; }
+    void SetCC(std::shared_ptr<List> list) { cc_ = std::move(list); }
+    std::shared_ptr<List> BCC() const { return bcc_; }
+    void SetBCC(std::shared_ptr<List> list) { bcc_ = std::move(list); }
+    // Fixed recipient texts that go before the lists.
+    void SetRecipientsTo(std::string value) { recipientsTo_ = std::move(value); }
+    void SetRecipientsCC(std::string value) { recipientsCC_ = std::move(value); }
+    void SetRecipientsBCC(std::string value) { recipientsBCC_ = std::move(value); }
+    // The fixed text if any, else the list's text, else "".
+    std::string RecipientsToText() const;
+    std::string RecipientsCCText() const;
+    std::string RecipientsBCCText() const;
+
+    const std::string& Subject() const noexcept { return subject_; }
+    void SetSubject(std::string value) { subject_ = std::move(value); }
+    const std::string& Body() const noexcept { return body_; }
+    void SetBody(std::string value) { body_ = std::move(value); }
+
+    // Adds a file path or a placeholder; a name that exists is reported.
+    void AddAttachment(const std::string& name);
+    std::shared_ptr<flowloom::Attachments> Attachments() const { return attachments_; }
+    void ClearAttachments() { attachments_ = std::make_shared<flowloom::Attachments>(); }
+
+    void Dispose() override;
+    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
+    std::optional<std::string> ProducedDocumentName() override { return outputDocumentName_; }
+
+private:
+    std::string datasourceName_;
+    std::int32_t mailApplication_ = 0;
+    std::int32_t sendMethod_ = 0;
+    std::shared_ptr<Document> inputDocument_;
+    std::shared_ptr<Document> outputDocument_;
+    std::string inputDocumentName_;
+    std::string outputDocumentName_;
+    FileTarget target_;
+    std::shared_ptr<List> to_, cc_, bcc_;
+    std::string recipientsTo_, recipientsCC_, recipientsBCC_;
+    std::string subject_;
+    std::string body_;
+    std::shared_ptr<flowloom::Attachments> attachments_;
+};
+
+}  // namespace flowloom

@@ -1,0 +1,64 @@
+// A file that uses every element and attribute comes back byte for byte.
+#include "ModelFixture.h"
+
+#include "model/Process.h"
+
+namespace flowloom::test {
+namespace {
+
+class RoundTrip : public ModelFixture {};
+
+TEST_F(RoundTrip, EveryElementAndAttributeSurvivesLoadAndXml) {
+    const std::string original = ReadAll(SourceDir() / "tests/data/every_element.xml");
+    ASSERT_FALSE(original.empty());
+    auto processes = LoadText(original);
+    ASSERT_EQ(processes->Complete(), Processes::Loaded);
+    EXPECT_TRUE(prompts.errors.empty());
+    EXPECT_TRUE(prompts.boxes.empty());
+    EXPECT_EQ(processes->XML(), original);
+    EXPECT_EQ(processes->SourceXML(), original);
+}
+
+TEST_F(RoundTrip, SavingTwiceWritesTheSameBytes) {
+    const std::string original = ReadAll(SourceDir() / "tests/data/every_element.xml");
+    auto processes = LoadText(original);
+    const auto out = folder / "out.xml";
+    ASSERT_TRUE(processes->Save(out.string()));
+    const std::string first = ReadAll(out);
+    ASSERT_TRUE(processes->Save(out.string()));
+    EXPECT_EQ(ReadAll(out), first);
+    EXPECT_EQ(first, original);
+    EXPECT_EQ(processes->XML(), first);  // what Save writes is exactly the text of XML
+}
+
+TEST_F(RoundTrip, TheBundledExampleIsInTheFormTheWriterProduces) {
+    const std::string example = ReadAll(SourceDir() / "examples/letters.xml");
+    auto processes = LoadText(example);
+    EXPECT_EQ(processes->Count(), 3);
+    EXPECT_EQ(processes->XML(), example);
+}
+
+TEST_F(RoundTrip, ValuesWithEveryEscapedCharacterSurvive) {
+    auto processes = Processes::Create();
+    auto process = Process::Create();
+    const std::string tricky = "a&b <c> \"d\" 'e'\r\nline\ttab ü €";
+    process->SetName(tricky);
+    process->SetMainDataSourceName(tricky);
+    processes->Add(process);
+    processes->SetVersion(1);
+    const std::string xml = processes->XML();
+    EXPECT_EQ(xml.find('\n'), std::string::npos);
+    EXPECT_NE(xml.find("a&amp;b &lt;c&gt; &quot;d&quot; 'e'&#13;&#10;line&#9;tab ü €"), std::string::npos) << xml;
+    auto reloaded = LoadText(xml);
+    ASSERT_EQ(reloaded->Count(), 1);
+    EXPECT_EQ(reloaded->Item(CollectionPosition{1})->name(), tricky);
+    EXPECT_EQ(reloaded->XML(), xml);
+}
+
+TEST_F(RoundTrip, UnknownAttributesAndElementsAreDropped) {
+    auto processes = LoadText(Document(R"(<Process Name="p" Colour="red"><Extra/></Process><Unknown/>)"));
+    EXPECT_EQ(processes->XML(), Document(R"(<Process Name="p" ProcessRecords="Current"/>)"));
+}
+
+}  // namespace
+}  // namespace flowloom::test
