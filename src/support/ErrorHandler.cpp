@@ -1,31 +1,190 @@
-// Placeholder until the full handler lands: logs nothing, shows the error.
 #include "support/ErrorHandler.h"
 
 #include "support/AppPaths.h"
+#include "support/CMailToProtocol.h"
 #include "support/Prompts.h"
+#include "support/SystemInfo.h"
+
+#include <algorithm>
+#include <ctime>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <vector>
 
 namespace flowloom {
 
-ErrorHandler::ErrorHandler() : AppTitleAndVersion(AppTitle() + " " + AppVersion()) {}
+namespace {
 
-int ErrorHandler::ErrorMessage(std::int32_t errNo, std::int32_t, const std::string& strDescription,
-                               const std::string&, const std::string&, const std::string&, bool, bool,
-                               bool, const std::string&, std::int32_t) {
-    ErrorBox box;
-    box.number = errNo;
-    box.description = strDescription;
-    box.text = "Error " + std::to_string(errNo) + ": " + strDescription;
-    box.title = "Velorin";
-    return CurrentPrompts().ShowError(box);
+constexpr const char* kTitle = "Velorin";
+constexpr int kRetryStyle = msgbox::RetryCancel | msgbox::Question;                            // 37
+constexpr int kReportStyle = msgbox::YesNo | msgbox::Question | msgbox::DefaultButton2;         // 292
+constexpr int kLogLinesInReport = 12;
+
+bool InRanges(std::int32_t n, std::initializer_list<std::pair<std::int32_t, std::int32_t>> ranges) {
+    return std::any_of(ranges.begin(), ranges.end(), [n](const auto& r) { return n >= r.first && n <= r.second; });
 }
 
-std::filesystem::path ErrorHandler::LogFilePath() const { return WritableProgramFolder() / "errorlog.txt"; }
+bool IsRetryError(std::int32_t n) {
+    return n == 520 || n == 521 || n == 1004 || n == 5152 || n == 5153 || n == 5356;
+}
+
+std::string Timestamp(const char* format) {
+    const std::time_t t = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&t, &local);
+    char buf[64];
+    std::strftime(buf, sizeof buf, format, &local);
+    return buf;
+}
+
+std::string LastLines(const std::filesystem::path& path, int count) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) return {};
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(in, line);) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        lines.push_back(line);
+    }
+    std::string out;
+    const std::size_t first = lines.size() > static_cast<std::size_t>(count) ? lines.size() - count : 0;
+    for (std::size_t i = first; i < lines.size(); ++i) {
+        if (i > first) out += "\r\n";
+        out += lines[i];
+    }
+    return out;
+}
+
+std::string WithoutAmpersands(std::string text) {
+    text.erase(std::remove(text.begin(), text.end(), '&'), text.end());
+    return text;
+}
+
+struct Texts {
+    std::string shortText;
+    std::string longText;
+};
+
+Texts BuildTexts(std::int32_t errNo, std::int32_t errLine, const std::string& description, const std::string& comment,
+                 const std::string& source, const std::string& procedure) {
+    const std::string note = comment.empty() ? std::string() : "\r\n\r\n" + comment;
+    const std::string location = source.empty() && procedure.empty() ? std::string() : "\r\n in " + source + "." + procedure;
+    if (errNo == -1 && errLine == -1) return {description, description};
+    const std::string head = "Error " + std::to_string(errNo) + ": " + description;
+    return {head + " " + note, head + location + " line " + std::to_string(errLine) + " " + note};
+}
+
+}  // namespace
+
+bool IsReportableError(std::int32_t n) {
+    // Expected failures of files, disks and databases.
+    if (InRanges(n, {{52, 55}, {57, 58}, {61, 63}, {67, 68}, {70, 71}, {74, 76}, {482, 484}, {3024, 3031},
+                     {3036, 3036}, {3040, 3040}, {3042, 3046}, {3049, 3056}, {3149, 3150}, {3152, 3154},
+                     {3158, 3158}, {3165, 3166}, {3168, 3177}, {3179, 3180}, {3182, 3183}, {3186, 3189},
+                     {3193, 3194}, {3196, 3196}, {3202, 3202}, {3204, 3204}, {3212, 3214}, {3233, 3233},
+                     {3248, 3248}, {3301, 3301}, {3310, 3310}, {3418, 3418}, {3429, 3429}, {3445, 3445},
+                     {3465, 3465}, {3472, 3472}, {3559, 3559}, {3566, 3566}, {3572, 3572}, {3575, 3575}}))
+        return false;
+    // The system's own codes that a user can put right.
+    if (InRanges(n, {{30001, 30001}, {30006, 30008}, {30013, 30015}, {30017, 30017}, {30019, 30019},
+                     {30027, 30027}, {30029, 30029}, {30031, 30031}, {30034, 30034}, {30036, 30042},
+                     {30045, 30048}, {30050, 30050}, {30052, 30052}, {30057, 30061}, {30063, 30064},
+                     {30069, 30069}, {30071, 30071}, {30076, 30076}, {30080, 30082}, {30084, 30084}}))
+        return false;
+    return true;
+}
+
+ErrorHandler::ErrorHandler() : AppTitleAndVersion(AppTitle() + " " + AppVersion()), SendTo("support@flowloom.example") {}
 
 ErrorHandler& ErrorHandler::Shared() {
     static ErrorHandler handler;
     return handler;
 }
 
-bool IsReportableError(std::int32_t) { return true; }
+std::filesystem::path ErrorHandler::LogFilePath() const { return WritableProgramFolder() / "errorlog.txt"; }
+
+int ErrorHandler::ErrorMessage(std::int32_t errNo, std::int32_t errLine, const std::string& strDescription,
+                               const std::string& strComment, const std::string& strSource,
+                               const std::string& strProcedure, bool bReportError, bool bHandledByCallingProcedure,
+                               bool bPickLinesFromErrorlog, const std::string& strHelpFile,
+                               std::int32_t lngHelpContextId) {
+    try {
+        bReportError = IsReportableError(errNo);
+        ErrorBox box;
+        box.number = errNo;
+        box.description = strDescription;
+        box.helpFile = strHelpFile;
+        box.helpContext = lngHelpContextId;
+
+        if (IsRetryError(errNo)) {
+            box.description = errNo == 520 || errNo == 521
+                                  ? "Another application is using the Clipboard and will not release it to your application."
+                                  : strDescription;
+            box.text = box.description + "\r\n" + strComment;
+            box.style = kRetryStyle;
+            box.title = kTitle;
+            return CurrentPrompts().ShowError(box);
+        }
+
+        const Texts texts = BuildTexts(errNo, errLine, strDescription, strComment, strSource, strProcedure);
+        box.title = bReportError ? std::string(kTitle) + ": Error" : std::string(kTitle);
+
+        if (bReportError || bHandledByCallingProcedure) {
+            std::ofstream log(LogFilePath(), std::ios::binary | std::ios::app);
+            log << Timestamp("%Y-%m-%d %H:%M:%S") << ' ' << texts.longText << "\r\n";
+            // The caller tells the user what it wants itself.
+            if (bHandledByCallingProcedure) return 0;
+        }
+
+        if (!bReportError) {
+            std::error_code ec;
+            const bool help = !strHelpFile.empty() && std::filesystem::exists(strHelpFile, ec) && lngHelpContextId <= 1000000;
+            box.text = texts.shortText;
+            box.style = help ? msgbox::Critical | msgbox::HelpButton : msgbox::Critical;
+            return CurrentPrompts().ShowError(box);
+        }
+        return Report(box, texts.shortText, texts.longText, bPickLinesFromErrorlog);
+    } catch (...) {
+        return 0;  // reporting must never raise a second error
+    }
+}
+
+int ErrorHandler::Report(ErrorBox box, std::string shortText, const std::string& longText, bool pickLines) {
+    // No mail address of the user's goes into the report.
+    if (const auto at = shortText.find('@'); at != std::string::npos) shortText.erase(at);
+    if (pickLines) {
+        const std::string lines = LastLines(LogFilePath(), kLogLinesInReport);
+        if (!lines.empty()) {
+            const std::string rule(30, '=');
+            shortText += "\r\n" + LogFilePath().string() + ":\r\n" + rule + "\r\n" + lines + "\r\n" + rule;
+        }
+    }
+    const std::string subject = "Runtime error in " + AppTitleAndVersion;
+    std::string body = ContactMe + "\r\n\r\n" + longText + "\r\n\r\n" + TryingTo + "\r\n\r\n" + WhatHappens;
+    if (ShowProjectInfo) body += "\r\n\r\n" + CurrentStatusInfo(AppTitle(), AppVersion());
+    if (ShowSysInfo) body += "\r\n\r\n" + SystemInformation();
+    if (ShowLocaleInfo) body += "\r\n\r\n" + LocaleInformation();
+
+    box.text = shortText + "\r\n\r\nDo you want to report the problem?";
+    box.style = kReportStyle;
+    const int answer = CurrentPrompts().ShowError(box);
+    if (answer != msgbox::Yes) return answer;
+
+    if (CMailToProtocol().Send(SendTo, WithoutAmpersands(subject), WithoutAmpersands(body)) != 0) ShowReportFile(body);
+    return answer;
+}
+
+void ErrorHandler::ShowReportFile(const std::string& body) const {
+    std::error_code ec;
+    const auto path = std::filesystem::temp_directory_path(ec) / ("~" + Timestamp("%Y%m%d%H%M%S") + ".txt");
+    const std::string text = PleaseSend + SendTo + "\r\n---\r\n\r\n" + body;
+    {
+        std::ofstream out(path, std::ios::binary | std::ios::trunc);
+        out << text;
+    }
+    std::ifstream in(path, std::ios::binary);
+    CurrentPrompts().ShowText(std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>()));
+    std::filesystem::remove(path, ec);
+}
 
 }  // namespace flowloom

@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <string>
 
+#include "support/Prompts.h"
+
 namespace flowloom {
 
 // The single place where a trapped run-time error becomes a message box, a
@@ -35,6 +37,11 @@ public:
 
     // The one shared handler, created on first use.
     static ErrorHandler& Shared();
+
+private:
+    int Report(ErrorBox box, std::string shortText, const std::string& longText, bool pickLines);
+    // When no mail program takes the report: the text in a window instead.
+    void ShowReportFile(const std::string& body) const;
 };
 
 // Whether an error number asks for a report (false for the expected failures
