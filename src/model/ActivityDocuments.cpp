@@ -23,12 +23,15 @@ void RenameOutputDocument(const std::shared_ptr<Process>& process, const std::st
     if (EqualsNoCase(oldName, newName) || newName.empty() || !process) return;
     auto documents = process->Documents();
     if (!documents) return;
-    if (auto document = oldName.empty() ? nullptr : documents->Find(oldName)) {
-        documents->Remove(CollectionPosition{oldName});
-        document->name = newName;
-        documents->Add(document, newName);
-    } else {
-        AddDocumentNamed(process, newName);
+    try {
+        if (auto document = oldName.empty() ? nullptr : documents->Find(oldName)) {
+            documents->Remove(CollectionPosition{oldName});
+            document->name = newName;
+            documents->Add(document, newName);
+        } else {
+            AddDocumentNamed(process, newName);
+        }
+    } catch (...) {
     }
 }
 

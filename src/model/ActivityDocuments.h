@@ -20,7 +20,8 @@ std::shared_ptr<Document> ResolveInputDocument(std::shared_ptr<Document>& held, 
 // is renamed: the document of the old name is taken out, renamed and put
 // back under the new name (so it stays the same object), or a new document
 // is added. Nothing happens when the names differ only in case or when the
-// process is unknown.
+// process is unknown; a failure leaves the documents as they are (the
+// caller stores the new name all the same).
 void RenameOutputDocument(const std::shared_ptr<Process>& process, const std::string& oldName,
                           const std::string& newName);
 

@@ -3,7 +3,6 @@
 #include "app/ErrorNumbers.h"
 #include "app/VbStrings.h"
 #include "model/ActivityDocuments.h"
-#include "model/Document.h"
 #include "model/Process.h"
 #include "model/xml/XmlDocument.h"
 
@@ -30,25 +29,15 @@ std::int32_t NumberOr(const char* text, std::int32_t fallback) {
 
 bool DistillerInstalled() { return false; }
 
-std::shared_ptr<Document> Convert::InputDocument() {
-    return ResolveInputDocument(inputDocument_, inputDocumentName_, ParentProcess(), errnum::DocumentNotCreatedConvert);
-}
-
-void Convert::SetOutputDocumentName(const std::string& name) {
-    try {
-        RenameOutputDocument(ParentProcess(), outputDocumentName_, name);
-    } catch (...) {
-    }
-    outputDocumentName_ = name;
-}
+Convert::Convert() : FileActivity(errnum::DocumentNotCreatedConvert, true) {}
 
 std::string Convert::FullName() {
-    if (target_.HasFullName()) return target_.StoredFullName().Text();
-    if (!target_.Folder().empty() && !target_.File().empty()) return target_.JoinedFullName();
+    if (Target().HasFullName()) return Target().StoredFullName().Text();
+    if (!Target().Folder().empty() && !Target().File().empty()) return Target().JoinedFullName();
     // A Convert without a target gets one now and keeps it, so that a later
     // read names the same file.
-    target_.SetFullName(TaggedValue(TemporaryFolderWithSeparator() + "vlk" + vb::Right(vb::SerialNowText(), 9)));
-    return target_.StoredFullName().Text();
+    Target().SetFullName(TaggedValue(TemporaryFolderWithSeparator() + "vlk" + vb::Right(vb::SerialNowText(), 9)));
+    return Target().StoredFullName().Text();
 }
 
 std::int32_t Convert::Postscript2PDFConverter() {
@@ -56,26 +45,17 @@ std::int32_t Convert::Postscript2PDFConverter() {
     return postscript2PDFConverter_;
 }
 
-void Convert::Dispose() {
-    inputDocument_.reset();
-    outputDocument_.reset();
-    Activity::Dispose();
-}
-
 void Convert::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
     for (const pugi::xml_attribute& a : node.attributes()) {
         try {
+            if (ReadCommonAttribute(a)) continue;
             const char* value = a.value();
-            if (NameIs(a, "InputDocumentName")) inputDocumentName_ = value;
-            else if (NameIs(a, "OutputDocumentName")) {
-                outputDocumentName_ = value;
+            if (NameIs(a, "OutputDocumentName")) {
+                // Stored as read; the document of that name is added once more, which an existing one makes idle.
+                StoreOutputDocumentName(value);
                 AddDocumentNamed(process, value);
-            } else if (NameIs(a, "Folder")) SetFolder(value);
-            else if (NameIs(a, "File")) SetFile(value);
-            else if (NameIs(a, "FullName")) SetFullName(TaggedValue(value));
-            else if (NameIs(a, "Description")) SetDescription(value);
-            else if (NameIs(a, "OverwriteExistingFile")) {
+            } else if (NameIs(a, "OverwriteExistingFile")) {
                 if (auto mode = ReadOverwriteMode(value)) SetOverwriteExistingFile(*mode);
             } else if (NameIs(a, "Show")) showDocument_ = vb::ReadBool(value);
             else if (NameIs(a, "OutputConvertFormat")) outputFileFormat_ = NumberOr(value, outputFileFormat_);

@@ -20,11 +20,7 @@ const std::string& MailMerge::DatasourceName() {
 }
 
 void MailMerge::SetOutputDocumentName(const std::string& name) {
-    try {
-        RenameOutputDocument(ParentProcess(), outputDocumentName_, name);
-    } catch (...) {
-        // without a process the documents cannot follow; the name is kept all the same
-    }
+    RenameOutputDocument(ParentProcess(), outputDocumentName_, name);
     outputDocumentName_ = name;
 }
 

@@ -3,7 +3,6 @@
 #include "app/ReportError.h"
 #include "app/VbStrings.h"
 #include "model/ActivityDocuments.h"
-#include "model/Document.h"
 #include "model/List.h"
 #include "model/Process.h"
 #include "model/xml/XmlDocument.h"
@@ -25,24 +24,12 @@ std::shared_ptr<List> ListOf(const std::string& text) {
 
 }  // namespace
 
-SendMail::SendMail() : attachments_(std::make_shared<flowloom::Attachments>()) {}
+SendMail::SendMail() : FileActivity(0, true), attachments_(std::make_shared<flowloom::Attachments>()) {}
 
 const std::string& SendMail::DatasourceName() {
     if (datasourceName_.empty())
         if (auto process = ParentProcess()) datasourceName_ = process->MainDataSourceName();
     return datasourceName_;
-}
-
-std::shared_ptr<Document> SendMail::InputDocument() {
-    return ResolveInputDocument(inputDocument_, inputDocumentName_, ParentProcess(), 0);
-}
-
-void SendMail::SetOutputDocumentName(const std::string& name) {
-    try {
-        RenameOutputDocument(ParentProcess(), outputDocumentName_, name);
-    } catch (...) {
-    }
-    outputDocumentName_ = name;
 }
 
 std::string SendMail::RecipientsToText() const { return RecipientsText(recipientsTo_, to_); }
@@ -62,26 +49,20 @@ void SendMail::Dispose() {
     to_.reset();
     cc_.reset();
     bcc_.reset();
-    inputDocument_.reset();
-    outputDocument_.reset();
-    Activity::Dispose();
+    FileActivity::Dispose();
 }
 
 void SendMail::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
     for (const pugi::xml_attribute& a : node.attributes()) {
         try {
+            if (ReadCommonAttribute(a)) continue;
             const std::string value = a.value();
-            if (NameIs(a, "InputDocumentName")) inputDocumentName_ = value;
-            else if (NameIs(a, "OutputDocumentName")) {
+            if (NameIs(a, "OutputDocumentName")) {
                 SetOutputDocumentName(value);
                 AddDocumentNamed(process, value);
-            } else if (NameIs(a, "Folder")) SetFolder(value);
-            else if (NameIs(a, "File")) SetFile(value);
-            else if (NameIs(a, "FullName")) SetFullName(TaggedValue(value));
-            else if (NameIs(a, "Subject")) subject_ = value;
+            } else if (NameIs(a, "Subject")) subject_ = value;
             else if (NameIs(a, "Body")) body_ = value;
-            else if (NameIs(a, "Description")) SetDescription(value);
             else if (NameIs(a, "DatasourceName")) datasourceName_ = value;
             else if (NameIs(a, "SMTPServer")) SMTPServer = value;
             else if (NameIs(a, "SMTPServerPort")) SMTPServerPort = value;

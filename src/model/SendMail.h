@@ -2,8 +2,7 @@
 
 #include "app/CDictionary.h"
 #include "app/KeyedCollection.h"
-#include "model/Activity.h"
-#include "model/FileTarget.h"
+#include "model/FileActivity.h"
 
 #include <cstdint>
 #include <memory>
@@ -11,13 +10,12 @@
 
 namespace flowloom {
 
-class Document;
 class List;
 
 using Attachments = KeyedCollection<CDictionary>;
 
 // Sends a document produced earlier, or a message of its own, by mail.
-class SendMail : public Activity {
+class SendMail : public FileActivity {
 public:
     SendMail();
     std::string ActivityType() const override { return "SendMail"; }
@@ -33,23 +31,6 @@ public:
     void SetSendMethod(std::int32_t value) { sendMethod_ = value; }
 
     std::string SMTPServer, SendUsername, SendPassword, SMTPServerPort, From, Charset;
-
-    std::shared_ptr<Document> InputDocument();  // empty when it does not resolve; no error
-    void SetInputDocument(std::shared_ptr<Document> document) { inputDocument_ = std::move(document); }
-    std::shared_ptr<Document> OutputDocument() const { return outputDocument_; }
-    const std::string& InputDocumentName() const noexcept { return inputDocumentName_; }
-    void SetInputDocumentName(std::string value) { inputDocumentName_ = std::move(value); }
-    const std::string& OutputDocumentName() const noexcept { return outputDocumentName_; }
-    void SetOutputDocumentName(const std::string& name);
-
-    FileTarget& Target() noexcept { return target_; }
-    const FileTarget& Target() const noexcept { return target_; }
-    const std::string& Folder() const noexcept { return target_.Folder(); }
-    void SetFolder(const std::string& value) { target_.SetFolder(value); }
-    const std::string& File() const noexcept { return target_.File(); }
-    void SetFile(const std::string& value) { target_.SetFile(value); }
-    std::string FullName() const { return target_.JoinedFullName(); }
-    void SetFullName(const TaggedValue& value) { target_.SetFullName(value); }
 
     std::shared_ptr<List> To_() const { return to_; }
     void SetTo_(std::shared_ptr<List> list) { to_ = std::move(list); }
@@ -78,17 +59,11 @@ public:
 
     void Dispose() override;
     void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
-    std::optional<std::string> ProducedDocumentName() override { return outputDocumentName_; }
 
 private:
     std::string datasourceName_;
     std::int32_t mailApplication_ = 0;
     std::int32_t sendMethod_ = 0;
-    std::shared_ptr<Document> inputDocument_;
-    std::shared_ptr<Document> outputDocument_;
-    std::string inputDocumentName_;
-    std::string outputDocumentName_;
-    FileTarget target_;
     std::shared_ptr<List> to_, cc_, bcc_;
     std::string recipientsTo_, recipientsCC_, recipientsBCC_;
     std::string subject_;

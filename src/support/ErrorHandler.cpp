@@ -3,6 +3,7 @@
 #include "support/AppPaths.h"
 #include "support/CMailToProtocol.h"
 #include "support/Prompts.h"
+#include "support/LocalTime.h"
 #include "support/SystemInfo.h"
 
 #include <algorithm>
@@ -27,15 +28,6 @@ bool InRanges(std::int32_t n, std::initializer_list<std::pair<std::int32_t, std:
 
 bool IsRetryError(std::int32_t n) {
     return n == 520 || n == 521 || n == 1004 || n == 5152 || n == 5153 || n == 5356;
-}
-
-std::string Timestamp(const char* format) {
-    const std::time_t t = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&t, &local);
-    char buf[64];
-    std::strftime(buf, sizeof buf, format, &local);
-    return buf;
 }
 
 std::string LastLines(const std::filesystem::path& path, int count) {
@@ -131,7 +123,7 @@ int ErrorHandler::ErrorMessage(std::int32_t errNo, std::int32_t errLine, const s
 
         if (bReportError || bHandledByCallingProcedure) {
             std::ofstream log(LogFilePath(), std::ios::binary | std::ios::app);
-            log << Timestamp("%Y-%m-%d %H:%M:%S") << ' ' << texts.longText << "\r\n";
+            log << FormatLocalTime("%Y-%m-%d %H:%M:%S") << ' ' << texts.longText << "\r\n";
             // The caller tells the user what it wants itself.
             if (bHandledByCallingProcedure) return 0;
         }
@@ -176,7 +168,7 @@ int ErrorHandler::Report(ErrorBox box, std::string shortText, const std::string&
 
 void ErrorHandler::ShowReportFile(const std::string& body) const {
     std::error_code ec;
-    const auto path = std::filesystem::temp_directory_path(ec) / ("~" + Timestamp("%Y%m%d%H%M%S") + ".txt");
+    const auto path = std::filesystem::temp_directory_path(ec) / ("~" + FormatLocalTime("%Y%m%d%H%M%S") + ".txt");
     const std::string text = PleaseSend + SendTo + "\r\n---\r\n\r\n" + body;
     {
         std::ofstream out(path, std::ios::binary | std::ios::trunc);

@@ -1,5 +1,7 @@
 #include "support/SystemInfo.h"
 
+#include "support/LocalTime.h"
+
 #include <langinfo.h>
 #include <sys/stat.h>
 #include <sys/utsname.h>
@@ -15,15 +17,6 @@
 namespace flowloom {
 
 namespace {
-
-std::string Now(const char* format) {
-    const std::time_t t = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&t, &local);
-    char buf[64];
-    std::strftime(buf, sizeof buf, format, &local);
-    return buf;
-}
 
 // "#,##0": thousands separated by commas.
 std::string Grouped(unsigned long long value) {
@@ -53,15 +46,8 @@ std::string CurrentStatusInfo(const std::string& project, const std::string& ver
     std::string fileDate;
     const auto exe = ExecutablePath();
     struct stat st {};
-    if (::stat(exe.c_str(), &st) == 0) {
-        const std::time_t t = st.st_mtime;
-        std::tm local{};
-        localtime_r(&t, &local);
-        char buf[64];
-        std::strftime(buf, sizeof buf, "%Y-%m-%d %H:%M:%S", &local);
-        fileDate = buf;
-    }
-    return "[Current Status Info]\r\nDate: " + Now("%Y-%m-%d %H:%M:%S") + "\r\nProject: " + project +
+    if (::stat(exe.c_str(), &st) == 0) fileDate = FormatLocalTime("%Y-%m-%d %H:%M:%S", st.st_mtime);
+    return "[Current Status Info]\r\nDate: " + FormatLocalTime("%Y-%m-%d %H:%M:%S") + "\r\nProject: " + project +
            "\r\nVersion: " + version + "\r\nFullname: " + exe + "\r\nFileDate: " + fileDate;
 }
 

@@ -1,6 +1,7 @@
 #include "support/Trash.h"
 
 #include "app/VbError.h"
+#include "support/LocalTime.h"
 
 #include <cstdlib>
 #include <ctime>
@@ -29,15 +30,6 @@ std::string EncodePath(const std::string& path) {
     return out;
 }
 
-std::string DeletionDate() {
-    const std::time_t t = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&t, &local);
-    char buf[32];
-    std::strftime(buf, sizeof buf, "%Y-%m-%dT%H:%M:%S", &local);
-    return buf;
-}
-
 }  // namespace
 
 fs::path TrashFolder() {
@@ -62,7 +54,7 @@ void MoveToTrash(const fs::path& path) {
     const fs::path info = trash / "info" / (name + ".trashinfo");
     {
         std::ofstream out(info, std::ios::binary | std::ios::trunc);
-        out << "[Trash Info]\nPath=" << EncodePath(absolute.string()) << "\nDeletionDate=" << DeletionDate() << "\n";
+        out << "[Trash Info]\nPath=" << EncodePath(absolute.string()) << "\nDeletionDate=" << FormatLocalTime("%Y-%m-%dT%H:%M:%S") << "\n";
         if (!out) RaiseStandardError(75);
     }
     std::error_code ec;

@@ -1,0 +1,34 @@
+#include "model/FileActivity.h"
+
+#include "model/ActivityDocuments.h"
+#include "model/Document.h"
+#include "model/xml/XmlDocument.h"
+
+namespace flowloom {
+
+std::shared_ptr<Document> FileActivity::InputDocument() {
+    return ResolveInputDocument(inputDocument_, inputDocumentName_, ParentProcess(), inputError_);
+}
+
+void FileActivity::SetOutputDocumentName(const std::string& name) {
+    if (producesDocuments_) RenameOutputDocument(ParentProcess(), outputDocumentName_, name);
+    outputDocumentName_ = name;
+}
+
+void FileActivity::Dispose() {
+    inputDocument_.reset();
+    outputDocument_.reset();
+    Activity::Dispose();
+}
+
+bool FileActivity::ReadCommonAttribute(const pugi::xml_attribute& a) {
+    if (NameIs(a, "InputDocumentName")) inputDocumentName_ = a.value();
+    else if (NameIs(a, "Folder")) SetFolder(a.value());
+    else if (NameIs(a, "File")) SetFile(a.value());
+    else if (NameIs(a, "FullName")) SetFullName(TaggedValue(a.value()));
+    else if (NameIs(a, "Description")) SetDescription(a.value());
+    else return false;
+    return true;
+}
+
+}  // namespace flowloom
