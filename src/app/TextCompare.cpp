@@ -2,8 +2,10 @@
 
 #include <utf8proc.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 namespace flowloom {
 
@@ -90,27 +92,78 @@ std::string ToLower(std::string_view text) {
     return MapCodePoints(text, [](utf8proc_int32_t c) { return utf8proc_tolower(c); });
 }
 
-std::size_t FindNoCase(std::string_view haystack, std::string_view needle, std::size_t from) {
-    if (from > haystack.size()) return std::string_view::npos;
+namespace {
+
+// A text folded code point by code point, remembering for each folded byte
+// where its code point starts in the original text.
+struct FoldedText {
+    std::string text;
+    std::vector<std::size_t> origin;  // one per byte of text, plus the end
+    std::vector<bool> boundary;       // a code point's folding starts here
+};
+
+FoldedText FoldWithOrigins(std::string_view original) {
+    FoldedText folded;
+    const auto* p = reinterpret_cast<const utf8proc_uint8_t*>(original.data());
+    const auto size = static_cast<utf8proc_ssize_t>(original.size());
+    utf8proc_ssize_t at = 0;
+    while (at < size) {
+        utf8proc_int32_t cp = 0;
+        const utf8proc_ssize_t n = utf8proc_iterate(p + at, size - at, &cp);
+        std::string piece;
+        if (n <= 0) {
+            piece.assign(1, static_cast<char>(p[at]));
+        } else {
+            utf8proc_int32_t buffer[8];
+            int boundclass = 0;
+            const utf8proc_ssize_t count = utf8proc_decompose_char(
+                cp, buffer, 8, static_cast<utf8proc_option_t>(UTF8PROC_CASEFOLD), &boundclass);
+            for (utf8proc_ssize_t i = 0; i < std::max<utf8proc_ssize_t>(count, 0) && i < 8; ++i) {
+                utf8proc_uint8_t bytes[4];
+                piece.append(reinterpret_cast<const char*>(bytes),
+                             static_cast<std::size_t>(utf8proc_encode_char(buffer[i], bytes)));
+            }
+            if (count <= 0) piece.assign(reinterpret_cast<const char*>(p + at), static_cast<std::size_t>(n));
+        }
+        for (std::size_t i = 0; i < piece.size(); ++i) {
+            folded.origin.push_back(static_cast<std::size_t>(at));
+            folded.boundary.push_back(i == 0);
+        }
+        folded.text += piece;
+        at += n <= 0 ? 1 : n;
+    }
+    folded.origin.push_back(original.size());
+    folded.boundary.push_back(true);
+    return folded;
+}
+
+}  // namespace
+
+std::pair<std::size_t, std::size_t> FindNoCaseSpan(std::string_view haystack, std::string_view needle,
+                                                   std::size_t from) {
+    constexpr auto npos = std::string_view::npos;
+    if (from > haystack.size()) return {npos, 0};
     if (IsAscii(haystack) && IsAscii(needle)) {
-        if (needle.empty()) return from;
+        if (needle.empty()) return {from, 0};
         for (std::size_t i = from; i + needle.size() <= haystack.size(); ++i) {
             std::size_t k = 0;
             while (k < needle.size() && AsciiLower(haystack[i + k]) == AsciiLower(needle[k])) ++k;
-            if (k == needle.size()) return i;
+            if (k == needle.size()) return {i, needle.size()};
         }
-        return std::string_view::npos;
+        return {npos, 0};
     }
-    // Lower-casing keeps code points one to one, so byte positions stay valid
-    // as long as each code point keeps its encoded length; check candidates.
-    for (std::size_t i = from; i + 1 <= haystack.size() + (needle.empty() ? 1 : 0); ++i) {
-        if (needle.empty()) return i;
-        for (std::size_t len = 1; i + len <= haystack.size(); ++len) {
-            if (EqualsNoCase(haystack.substr(i, len), needle)) return i;
-            if (len > needle.size() * 2 + 4) break;
-        }
+    const FoldedText folded = FoldWithOrigins(haystack);
+    const std::string key = FoldCase(needle);
+    for (std::size_t pos = folded.text.find(key); pos != std::string::npos; pos = folded.text.find(key, pos + 1)) {
+        const std::size_t end = pos + key.size();
+        if (!folded.boundary[pos] || !folded.boundary[end] || folded.origin[pos] < from) continue;
+        return {folded.origin[pos], folded.origin[end] - folded.origin[pos]};
     }
-    return std::string_view::npos;
+    return {npos, 0};
+}
+
+std::size_t FindNoCase(std::string_view haystack, std::string_view needle, std::size_t from) {
+    return FindNoCaseSpan(haystack, needle, from).first;
 }
 
 }  // namespace flowloom

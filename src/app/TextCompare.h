@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace flowloom {
 
@@ -20,5 +21,9 @@ std::string ToLower(std::string_view text);
 // Position (0-based) of the first occurrence of `needle` in `haystack` at or
 // after `from`, compared without regard to case; npos when absent.
 std::size_t FindNoCase(std::string_view haystack, std::string_view needle, std::size_t from = 0);
+// The same, with the length of the match in the original text (case folding
+// may change the length of a code point, as "ß" against "SS").
+std::pair<std::size_t, std::size_t> FindNoCaseSpan(std::string_view haystack, std::string_view needle,
+                                                   std::size_t from = 0);
 
 }  // namespace flowloom

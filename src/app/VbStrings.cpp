@@ -68,25 +68,6 @@ std::string Replace(std::string_view text, std::string_view find, std::string_vi
     return out;
 }
 
-std::string ReplaceNoCase(std::string_view text, std::string_view find, std::string_view with) {
-    if (find.empty()) return std::string(text);
-    std::string out;
-    std::size_t start = 0;
-    for (;;) {
-        std::size_t pos = FindNoCase(text, find, start);
-        if (pos == std::string_view::npos) break;
-        out.append(text.substr(start, pos - start));
-        out.append(with);
-        // The match may differ in byte length only for non-ASCII text; find
-        // its end by comparing growing slices.
-        std::size_t len = find.size();
-        while (pos + len <= text.size() && !EqualsNoCase(text.substr(pos, len), find)) ++len;
-        start = pos + std::min(len, text.size() - pos);
-    }
-    out.append(text.substr(start));
-    return out;
-}
-
 namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }

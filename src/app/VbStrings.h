@@ -21,8 +21,6 @@ std::string Join(const std::vector<std::string>& parts, std::string_view separat
 
 // Replaces every occurrence, comparing bytes exactly.
 std::string Replace(std::string_view text, std::string_view find, std::string_view with);
-// Replaces every occurrence, comparing without regard to case.
-std::string ReplaceNoCase(std::string_view text, std::string_view find, std::string_view with);
 
 // The number a text converts to, if it converts at all: optional blanks, sign,
 // digits with an optional decimal point, optional exponent; or &H / &O forms.
