@@ -21,6 +21,9 @@ using CollectionPosition = std::variant<std::monostate, std::int32_t, std::strin
 // Adding a key that exists is error 457, an unknown key error 5, an index out
 // of range error 9. Items are shared: the same object may also be held by a
 // cache or by another collection.
+//
+// Most collections of a processes file hold a handful of items, so keys are
+// searched in the entries; only a large collection keeps a hash index.
 template <typename T>
 class KeyedCollection {
 public:
@@ -28,44 +31,44 @@ public:
 
     struct Entry {
         Ptr item;
-        std::string key;  // as given; empty for an item without a key
+        std::string key;     // as given; empty for an item without a key
+        std::string folded;  // the key folded for comparison
     };
+
 
     // Adds `item` under `key` (none when empty), before or after the given
     // position (before wins), else at the end.
     void Add(Ptr item, std::string_view key = {}, const CollectionPosition& before = {},
              const CollectionPosition& after = {}) {
-        std::string folded;
-        if (!key.empty()) {
-            folded = FoldCase(key);
-            if (byKey_.contains(folded)) RaiseStandardError(vberr::DuplicateKey);
-        }
+        if (!TryAdd(std::move(item), key, before, after)) RaiseStandardError(vberr::DuplicateKey);
+    }
+    // As Add, but a key that exists gives false instead of error 457.
+    bool TryAdd(Ptr item, std::string_view key = {}, const CollectionPosition& before = {},
+                const CollectionPosition& after = {}) {
+        std::string folded = key.empty() ? std::string() : FoldCase(key);
+        if (!folded.empty() && FindFolded(folded) != kNone) return false;
         std::size_t at = entries_.size();
         if (!std::holds_alternative<std::monostate>(before)) at = ResolvePosition(before);
         else if (!std::holds_alternative<std::monostate>(after)) at = ResolvePosition(after) + 1;
-        if (!key.empty()) byKey_.emplace(std::move(folded), item);
-        entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(at), Entry{std::move(item), std::string(key)});
+        const bool append = at == entries_.size();
+        if (index_ && append && !folded.empty()) index_->emplace(folded, at);
+        else if (!append) index_.reset();  // positions moved
+        entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(at),
+                        Entry{std::move(item), std::string(key), std::move(folded)});
+        return true;
     }
 
     const Ptr& Item(std::int32_t index) const { return entries_[CheckedIndex(index)].item; }
-    const Ptr& Item(std::string_view key) const {
-        auto it = byKey_.find(FoldCase(key));
-        if (it == byKey_.end()) RaiseStandardError(vberr::InvalidProcedureCall);
-        return it->second;
-    }
+    const Ptr& Item(std::string_view key) const { return entries_[IndexOfKey(key)].item; }
     // Item by a position that may be an index or a key.
-    const Ptr& ItemAt(const CollectionPosition& position) const {
-        if (auto* i = std::get_if<std::int32_t>(&position)) return Item(*i);
-        if (auto* k = std::get_if<std::string>(&position)) return Item(std::string_view(*k));
-        RaiseStandardError(vberr::InvalidProcedureCall);
-    }
+    const Ptr& ItemAt(const CollectionPosition& position) const { return entries_[ResolvePosition(position)].item; }
 
     // KeyExists: whether an item is stored under this key.
-    bool Contains(std::string_view key) const { return byKey_.contains(FoldCase(key)); }
+    bool Contains(std::string_view key) const { return !key.empty() && FindFolded(FoldCase(key)) != kNone; }
     // The item under this key, or nothing; no error.
     Ptr Find(std::string_view key) const {
-        auto it = byKey_.find(FoldCase(key));
-        return it == byKey_.end() ? nullptr : it->second;
+        const std::size_t i = key.empty() ? kNone : FindFolded(FoldCase(key));
+        return i == kNone ? nullptr : entries_[i].item;
     }
 
     std::int32_t Count() const noexcept { return static_cast<std::int32_t>(entries_.size()); }
@@ -85,7 +88,7 @@ public:
 
     void Clear() noexcept {
         entries_.clear();
-        byKey_.clear();
+        index_.reset();
     }
 
     // Iteration in order, over the items.
@@ -100,9 +103,17 @@ public:
         explicit const_iterator(typename std::vector<Entry>::const_iterator it) : it_(it) {}
         reference operator*() const { return it_->item; }
         pointer operator->() const { return &it_->item; }
-        const_iterator& operator++() { ++it_; return *this; }
-        const_iterator operator++(int) { auto old = *this; ++it_; return old; }
+        const_iterator& operator++() {
+            ++it_;
+            return *this;
+        }
+        const_iterator operator++(int) {
+            auto old = *this;
+            ++it_;
+            return old;
+        }
         bool operator==(const const_iterator&) const = default;
+
     private:
         typename std::vector<Entry>::const_iterator it_{};
     };
@@ -118,17 +129,32 @@ public:
     }
 
 private:
+    static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+    static constexpr std::size_t kIndexFrom = 32;  // entries before a hash index pays off
+
+    std::size_t FindFolded(const std::string& folded) const {
+        if (entries_.size() < kIndexFrom) {
+            for (std::size_t i = 0; i < entries_.size(); ++i)
+                if (entries_[i].folded == folded) return i;
+            return kNone;
+        }
+        if (!index_) {
+            index_ = std::make_unique<std::unordered_map<std::string, std::size_t>>();
+            index_->reserve(entries_.size());
+            for (std::size_t i = 0; i < entries_.size(); ++i)
+                if (!entries_[i].folded.empty()) index_->emplace(entries_[i].folded, i);
+        }
+        auto it = index_->find(folded);
+        return it == index_->end() ? kNone : it->second;
+    }
     std::size_t CheckedIndex(std::int32_t index) const {
-        if (index < 1 || static_cast<std::size_t>(index) > entries_.size())
-            RaiseStandardError(vberr::SubscriptOutOfRange);
+        if (index < 1 || static_cast<std::size_t>(index) > entries_.size()) RaiseStandardError(vberr::SubscriptOutOfRange);
         return static_cast<std::size_t>(index - 1);
     }
     std::size_t IndexOfKey(std::string_view key) const {
-        const std::string folded = FoldCase(key);
-        if (byKey_.contains(folded))
-            for (std::size_t i = 0; i < entries_.size(); ++i)
-                if (!entries_[i].key.empty() && FoldCase(entries_[i].key) == folded) return i;
-        RaiseStandardError(vberr::InvalidProcedureCall);
+        const std::size_t i = key.empty() ? kNone : FindFolded(FoldCase(key));
+        if (i == kNone) RaiseStandardError(vberr::InvalidProcedureCall);
+        return i;
     }
     std::size_t ResolvePosition(const CollectionPosition& position) const {
         if (auto* i = std::get_if<std::int32_t>(&position)) return CheckedIndex(*i);
@@ -136,12 +162,14 @@ private:
         RaiseStandardError(vberr::InvalidProcedureCall);
     }
     void EraseAt(std::size_t i) {
-        if (!entries_[i].key.empty()) byKey_.erase(FoldCase(entries_[i].key));
         entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(i));
+        index_.reset();
     }
 
     std::vector<Entry> entries_;
-    std::unordered_map<std::string, Ptr> byKey_;
+    // Folded key to position, only for large collections; dropped by any
+    // change that moves entries and built again on the next lookup.
+    mutable std::unique_ptr<std::unordered_map<std::string, std::size_t>> index_;
 };
 
 // KeyExists of the shared helpers: true when the key can be looked up.

@@ -65,11 +65,19 @@ std::string FoldCase(std::string_view text) {
 }
 
 bool EqualsNoCase(std::string_view a, std::string_view b) {
-    if (IsAscii(a) && IsAscii(b)) {
-        if (a.size() != b.size()) return false;
-        for (std::size_t i = 0; i < a.size(); ++i)
-            if (AsciiLower(a[i]) != AsciiLower(b[i])) return false;
-        return true;
+    // Byte by byte while both sides are ASCII; Unicode folding only when a
+    // non-ASCII byte turns up (folding may change lengths, as "ß" and "ss").
+    if (a.size() == b.size()) {
+        std::size_t i = 0;
+        for (; i < a.size(); ++i) {
+            const unsigned char x = static_cast<unsigned char>(a[i]);
+            const unsigned char y = static_cast<unsigned char>(b[i]);
+            if ((x | y) >= 0x80) break;
+            if (AsciiLower(static_cast<char>(x)) != AsciiLower(static_cast<char>(y))) return false;
+        }
+        if (i == a.size()) return true;
+    } else if (IsAscii(a) && IsAscii(b)) {
+        return false;
     }
     return FoldCase(a) == FoldCase(b);
 }

@@ -13,8 +13,6 @@ namespace flowloom {
 
 namespace {
 
-bool IsDuplicateKey(const VbError& e) { return e.Number() == vberr::DuplicateKey; }
-
 // Adds with a key, ignoring a key that exists; other failures are reported.
 template <typename T>
 void AddIgnoringDuplicate(KeyedCollection<T>& items, const std::shared_ptr<T>& item, std::string_view key,
@@ -22,9 +20,7 @@ void AddIgnoringDuplicate(KeyedCollection<T>& items, const std::shared_ptr<T>& i
                           std::string_view module) {
     if (!item) return;
     try {
-        items.Add(item, key, before, after);
-    } catch (const VbError& e) {
-        if (!IsDuplicateKey(e)) ReportError(e, module, "Add");
+        items.TryAdd(item, key, before, after);
     } catch (...) {
         ReportPendingError(module, "Add");
     }

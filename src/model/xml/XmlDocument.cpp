@@ -81,7 +81,7 @@ void XmlDocument::AppendDeclaration() {
     decl.append_attribute("encoding").set_value("UTF-8");
 }
 
-std::string XmlDocument::XML() const { return SerializeNode(document_); }
+std::string XmlDocument::XML(std::size_t sizeHint) const { return SerializeNode(document_, sizeHint); }
 
 void XmlDocument::Save(const std::filesystem::path& path) const {
     const std::string text = XML();
@@ -98,25 +98,25 @@ namespace {
 // characters (line breaks, tabs) as character references, so that every
 // value survives a round trip unchanged.
 void AppendEscaped(std::string& out, const char* text, bool attribute) {
-    for (const char* p = text; *p; ++p) {
+    const char* run = text;  // start of the characters that need no escape
+    for (const char* p = text;; ++p) {
         const unsigned char c = static_cast<unsigned char>(*p);
+        const bool special = c == '&' || c == '<' || c == '>' || (c == '"' && attribute) ||
+                             (c < 0x20 && c != 0 && (attribute || (c != '\n' && c != '\t' && c != '\r')));
+        if (!special && c != 0) continue;
+        out.append(run, static_cast<std::size_t>(p - run));
+        if (c == 0) return;
         switch (c) {
         case '&': out += "&amp;"; break;
         case '<': out += "&lt;"; break;
         case '>': out += "&gt;"; break;
-        case '"':
-            if (attribute) out += "&quot;";
-            else out += '"';
-            break;
+        case '"': out += "&quot;"; break;
         default:
-            if (c < 0x20 && (attribute || (c != '\n' && c != '\t' && c != '\r'))) {
-                out += "&#";
-                out += std::to_string(c);
-                out += ';';
-            } else {
-                out += static_cast<char>(c);
-            }
+            out += "&#";
+            out += std::to_string(c);
+            out += ';';
         }
+        run = p + 1;
     }
 }
 
@@ -190,18 +190,11 @@ void AppendNode(std::string& out, const pugi::xml_node& node) {
     }
 }
 
-std::size_t EstimateSize(const pugi::xml_node& node) {
-    // A cheap guess that avoids most reallocations of large documents.
-    std::size_t elements = 0;
-    for (pugi::xml_node n = node.first_child(); n && elements < 64; n = n.next_sibling()) ++elements;
-    return elements * 256;
-}
-
 }  // namespace
 
-std::string SerializeNode(const pugi::xml_node& node) {
+std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint) {
     std::string out;
-    out.reserve(EstimateSize(node));
+    out.reserve(sizeHint);
     AppendNode(out, node);
     return out;
 }

@@ -38,8 +38,9 @@ public:
     pugi::xml_document& Native() noexcept { return document_; }
     const pugi::xml_document& Native() const noexcept { return document_; }
 
-    // The serialised text ("xml" of the document object).
-    std::string XML() const;
+    // The serialised text ("xml" of the document object); a good guess of
+    // its size saves the copies of a growing string.
+    std::string XML(std::size_t sizeHint = 0) const;
     // Writes exactly XML() to the file; throws VbError on failure.
     void Save(const std::filesystem::path& path) const;
 
@@ -51,7 +52,7 @@ private:
 };
 
 // The serialised text of one node (an element or a whole document).
-std::string SerializeNode(const pugi::xml_node& node);
+std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint = 0);
 
 // Attribute-name comparison of the readers: without regard to case.
 bool NameIs(const pugi::xml_attribute& attribute, std::string_view name);
