@@ -208,6 +208,16 @@ std::string SerialNowText() {
     return buf;
 }
 
+std::string GroupDigits(std::string_view digits) {
+    std::string out;
+    out.reserve(digits.size() + digits.size() / 3);
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        if (i > 0 && (digits.size() - i) % 3 == 0) out += ',';
+        out += digits[i];
+    }
+    return out;
+}
+
 std::string Right(std::string_view text, std::size_t n) {
     return std::string(n >= text.size() ? text : text.substr(text.size() - n));
 }

@@ -48,6 +48,8 @@ inline const char* BoolText(bool value) { return value ? "-1" : "0"; }
 // Format(value, "0.0000000000") of a serial day number: the fraction of the
 // present day, as used in backup and temporary names.
 std::string SerialNowText();
+// Digits with a comma between each group of three ("1234567" gives "1,234,567").
+std::string GroupDigits(std::string_view digits);
 // The last n characters of a text (the whole text when shorter).
 std::string Right(std::string_view text, std::size_t n);
 

@@ -4,6 +4,7 @@
 #include "app/VbError.h"
 #include "app/VbStrings.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <vector>
@@ -93,9 +94,8 @@ std::string FormatNumber(double value, const std::string& format) {
     std::snprintf(buf, sizeof buf, "%.*f", static_cast<int>(decimals), std::fabs(value));
     std::string text = buf;
     if (grouped) {
-        const std::size_t dot = text.find('.');
-        for (int i = static_cast<int>(dot == std::string::npos ? text.size() : dot) - 3; i > 0; i -= 3)
-            text.insert(static_cast<std::size_t>(i), ",");
+        const std::size_t dot = std::min(text.find('.'), text.size());
+        text = vb::GroupDigits(std::string_view(text).substr(0, dot)) + text.substr(dot);
     }
     return (value < 0 ? "-" : "") + text;
 }

@@ -5,6 +5,8 @@
 #include <array>
 #include <cstddef>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace flowloom {
 
@@ -12,16 +14,28 @@ namespace flowloom {
 // (a Word save, an Excel print): tagged values kept as read and written back
 // the same, indexed by an enumeration of the activity. A value that is an
 // object is ignored on writing.
+// Only the arguments that were given are stored: most activities set few.
 template <typename Arg, std::size_t N>
 class PassThroughValues {
 public:
-    const TaggedValue& Get(Arg arg) const { return values_[static_cast<std::size_t>(arg)]; }
+    const TaggedValue& Get(Arg arg) const {
+        static const TaggedValue empty;
+        for (const auto& [which, value] : values_)
+            if (which == arg) return value;
+        return empty;
+    }
     void Set(Arg arg, TaggedValue value) {
-        if (!value.IsObject()) values_[static_cast<std::size_t>(arg)] = std::move(value);
+        if (value.IsObject()) return;
+        for (auto& [which, stored] : values_)
+            if (which == arg) {
+                stored = std::move(value);
+                return;
+            }
+        values_.emplace_back(arg, std::move(value));
     }
 
 private:
-    std::array<TaggedValue, N> values_{};
+    std::vector<std::pair<Arg, TaggedValue>> values_;
 };
 
 // Finds the argument whose attribute name equals `name` without regard to

@@ -15,10 +15,21 @@
 #include "support/Prompts.h"
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 namespace flowloom {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+std::string ReadWholeFile(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+}
+
+}  // namespace
 
 Processes::Processes(Passkey)
     : databases_(std::make_shared<flowloom::Databases>()), options_(std::make_shared<flowloom::Options>()) {}
@@ -35,10 +46,10 @@ std::shared_ptr<flowloom::Groups> Processes::Groups() {
 }
 
 const std::string& Processes::SourceXML() const {
-    // Serialised on first read: the loaded document is kept anyway, and most
-    // loads never ask for the text.
-    if (!sourceXmlReady_ && document_ && document_->DocumentElement()) {
-        sourceXml_ = document_->XML();
+    // Made on first read: most loads never ask for it.
+    if (!sourceXmlReady_ && !loadedText_.empty()) {
+        XmlDocument document;
+        if (document.LoadXml(loadedText_)) sourceXml_ = document.XML(loadedText_.size());
         sourceXmlReady_ = true;
     }
     return sourceXml_;
@@ -60,11 +71,13 @@ void Processes::Load(const std::string& fileName, std::shared_ptr<void> applicat
                               errnum::Description(errnum::ProcessesFileDoesNotExist, {processesFile_}), "Velorin");
         }
         if (exists) {
-            document_ = std::make_unique<XmlDocument>();
             sourceXmlReady_ = false;
             sourceXml_.clear();
-            document_->Load(processesFile_);
-            CheckLoadedDocument();
+            loadedText_ = ReadWholeFile(processesFile_);
+            lastXmlSize_ = loadedText_.size();
+            XmlDocument document;
+            document.LoadXml(loadedText_);
+            CheckLoadedDocument(document);
         }
         // Old files are converted and written back at once; a new one is created.
         if (version_ != 1) {
@@ -76,15 +89,15 @@ void Processes::Load(const std::string& fileName, std::shared_ptr<void> applicat
     }
 }
 
-void Processes::CheckLoadedDocument() {
+void Processes::CheckLoadedDocument(XmlDocument& document) {
     try {
-        if (!document_->DocumentElement()) {
-            const XmlParseError& error = document_->ParseError();
+        if (!document.DocumentElement()) {
+            const XmlParseError& error = document.ParseError();
             errorString_ = "Error: Line " + std::to_string(error.line) + "\r\n" + error.reason + "\r\n" + error.srcText;
             complete_ = Failed;
             return;
         }
-        complete_ = ReadRoot(document_->Native().child("Processes")) ? Loaded : Failed;
+        complete_ = ReadRoot(document.Native().child("Processes")) ? Loaded : Failed;
     } catch (...) {
         ReportPendingError("Processes", "CheckLoadedDocument");
     }
@@ -157,7 +170,9 @@ bool Processes::WriteFile(const std::string& target, const XmlDocument& document
         backup = target + "." + vb::Right(vb::SerialNowText(), 9) + ".bak";
         fs::copy_file(target, backup, fs::copy_options::overwrite_existing);
     }
-    WriteFileAtomically(target, document.XML());
+    const std::string text = document.XML(lastXmlSize_);
+    lastXmlSize_ = text.size();
+    WriteFileAtomically(target, text);
     // A new file shorter than the old one keeps its backup: the safety net
     // against a truncated save.
     if (!backup.empty()) {
@@ -171,7 +186,10 @@ bool Processes::WriteFile(const std::string& target, const XmlDocument& document
 std::string Processes::XML() {
     try {
         std::unique_ptr<XmlDocument> document = CProcessesXMLDoc().Generate(*this);
-        return document ? document->XML() : std::string();
+        if (!document) return {};
+        std::string text = document->XML(lastXmlSize_ + lastXmlSize_ / 16);
+        lastXmlSize_ = text.size();
+        return text;
     } catch (...) {
         ReportPendingError("Processes", "XML");
         return {};
@@ -218,7 +236,8 @@ std::shared_ptr<Database> Processes::GetDatabaseByName(const std::string& name) 
 
 void Processes::Dispose() {
     try {
-        document_.reset();
+        loadedText_.clear();
+        loadedText_.shrink_to_fit();
         for (const auto& process : processes_) process->Dispose();
         processes_.Clear();
         application_.reset();

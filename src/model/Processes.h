@@ -74,19 +74,22 @@ public:
     bool Disposed() const noexcept { return disposed_; }
 
 private:
-    void CheckLoadedDocument();
+    void CheckLoadedDocument(XmlDocument& document);
     bool ReadRoot(const pugi::xml_node& root);
     bool ReadContents(const pugi::xml_node& root);
     bool WriteFile(const std::string& target, const XmlDocument& document);
 
     KeyedCollection<Process> processes_;
-    std::unique_ptr<XmlDocument> document_;
+    // The text of the last load: the parsed document is not kept, since a
+    // model of a large file would otherwise be held twice.
+    std::string loadedText_;
     std::shared_ptr<void> application_;
     std::string processesFile_;
     std::string errorString_;
     std::int32_t complete_ = NotLoaded;
     mutable std::string sourceXml_;
     mutable bool sourceXmlReady_ = false;
+    std::size_t lastXmlSize_ = 0;  // a size hint for the next XML text
     std::shared_ptr<flowloom::Databases> databases_;
     std::shared_ptr<flowloom::Options> options_;
     std::shared_ptr<flowloom::Groups> groups_;
