@@ -60,7 +60,7 @@ std::string CXmlMessages::GetMessage(const std::string& vstrMsgCode) const {
     return {};
 }
 
-CXmlMessages& SharedMessages() {
+CXmlMessages& Messages() {
     static CXmlMessages messages;
     return messages;
 }

@@ -26,7 +26,8 @@ private:
     Collection messages_;
 };
 
-// The catalogue of the program, loaded once at start if the file exists.
-CXmlMessages& SharedMessages();
+// The catalogue of the program: the designer loads "messages.xml" into it
+// once at start, and everything else reads its texts from there.
+CXmlMessages& Messages();
 
 }  // namespace flowloom

@@ -19,6 +19,7 @@ public:
     std::string MakeValidBaseName(const std::string& vstrFileBaseName) const;
     std::string GetFileVersion(const std::string& vstrFileFullName) const;
     std::string GetParentFolderName(const std::string& vstrFullname) const;
+    // Creates one folder; a failure (also an existing one) is reported.
     void CreateFolder(const std::string& vstrFolderName);
 
     bool RenameFile(const std::string& vstrOldFullName, const std::string& vstrNewName);
@@ -38,7 +39,8 @@ public:
     // Creates every missing level; false (without a message) when one fails.
     bool CreateFolders(const std::string& vstrFolderName);
     std::string BuildPath(const std::string& vstrPath, const std::string& vstrName) const;
-    // The folder of a full name, with a closing separator when AddSlash.
+    // The folder of a full name, with a closing separator when AddSlash (a
+    // bare name has no folder, and gets none: "" rather than the root).
     std::string FilePath(const std::string& strFileFullPath, bool AddSlash) const;
     std::string FileName(const std::string& strFileFullPath) const;
     std::string GetDriveName(const std::string& vstrPath) const;
@@ -51,12 +53,5 @@ private:
     bool Delete(Kind kind, const std::string& fullName, bool useRecycleBin, bool askConfirmation, bool silentOnError,
                 const char* procedure);
 };
-
-// modCFSO: thin free functions in front of one shared CFSO.
-CFSO& SharedFSO();
-bool FileExists(const std::string& path);
-bool FolderExists(const std::string& path);
-std::string BuildPath(const std::string& path, const std::string& name);
-std::string GetParentFolderName(const std::string& path);
 
 }  // namespace flowloom

@@ -21,6 +21,7 @@ constexpr const char* kTitle = "Velorin";
 constexpr int kRetryStyle = msgbox::RetryCancel | msgbox::Question;                            // 37
 constexpr int kReportStyle = msgbox::YesNo | msgbox::Question | msgbox::DefaultButton2;         // 292
 constexpr int kLogLinesInReport = 12;
+constexpr std::int32_t kLargestHelpContext = 1000000;
 
 bool InRanges(std::int32_t n, std::initializer_list<std::pair<std::int32_t, std::int32_t>> ranges) {
     return std::any_of(ranges.begin(), ranges.end(), [n](const auto& r) { return n >= r.first && n <= r.second; });
@@ -107,55 +108,62 @@ int ErrorHandler::ErrorMessage(std::int32_t errNo, std::int32_t errLine, const s
         box.description = strDescription;
         box.helpFile = strHelpFile;
         box.helpContext = lngHelpContextId;
-
-        if (IsRetryError(errNo)) {
-            box.description = errNo == 520 || errNo == 521
-                                  ? "Another application is using the Clipboard and will not release it to your application."
-                                  : strDescription;
-            box.text = box.description + "\r\n" + strComment;
-            box.style = kRetryStyle;
-            box.title = kTitle;
-            return CurrentPrompts().ShowError(box);
-        }
+        box.title = kTitle;
+        if (IsRetryError(errNo)) return AskRetry(box, strComment);
 
         const Texts texts = BuildTexts(errNo, errLine, strDescription, strComment, strSource, strProcedure);
-        box.title = bReportError ? std::string(kTitle) + ": Error" : std::string(kTitle);
-
         if (bReportError || bHandledByCallingProcedure) {
-            std::ofstream log(LogFilePath(), std::ios::binary | std::ios::app);
-            log << FormatLocalTime("%Y-%m-%d %H:%M:%S") << ' ' << texts.longText << "\r\n";
+            AppendToLog(texts.longText);
             // The caller tells the user what it wants itself.
             if (bHandledByCallingProcedure) return 0;
         }
-
-        if (!bReportError) {
-            std::error_code ec;
-            const bool help = !strHelpFile.empty() && std::filesystem::exists(strHelpFile, ec) && lngHelpContextId <= 1000000;
-            box.text = texts.shortText;
-            box.style = help ? msgbox::Critical | msgbox::HelpButton : msgbox::Critical;
-            return CurrentPrompts().ShowError(box);
-        }
+        if (!bReportError) return ShowPlain(box, texts.shortText);
+        box.title = std::string(kTitle) + ": Error";
         return Report(box, texts.shortText, texts.longText, bPickLinesFromErrorlog);
     } catch (...) {
         return 0;  // reporting must never raise a second error
     }
 }
 
-int ErrorHandler::Report(ErrorBox box, std::string shortText, const std::string& longText, bool pickLines) {
-    // No mail address of the user's goes into the report.
+int ErrorHandler::AskRetry(ErrorBox box, const std::string& comment) const {
+    if (box.number == 520 || box.number == 521)
+        box.description = "Another application is using the Clipboard and will not release it to your application.";
+    box.text = box.description + "\r\n" + comment;
+    box.style = kRetryStyle;
+    return CurrentPrompts().ShowError(box);
+}
+
+void ErrorHandler::AppendToLog(const std::string& longText) const {
+    std::ofstream log(LogFilePath(), std::ios::binary | std::ios::app);
+    log << FormatLocalTime("%Y-%m-%d %H:%M:%S") << ' ' << longText << "\r\n";
+}
+
+int ErrorHandler::ShowPlain(ErrorBox box, const std::string& shortText) const {
+    std::error_code ec;
+    const bool help = !box.helpFile.empty() && std::filesystem::is_regular_file(box.helpFile, ec) &&
+                      box.helpContext <= kLargestHelpContext;
+    box.text = shortText;
+    box.style = help ? msgbox::Critical | msgbox::HelpButton : msgbox::Critical;
+    if (!help) {
+        box.helpFile.clear();
+        box.helpContext = 0;
+    }
+    return CurrentPrompts().ShowError(box);
+}
+
+int ErrorHandler::Report(ErrorBox box, std::string shortText, std::string longText, bool pickLines) {
+    // No mail address of the user's goes into the question.
     if (const auto at = shortText.find('@'); at != std::string::npos) shortText.erase(at);
+    // The last records of the log show support what led up to the error.
     if (pickLines) {
         const std::string lines = LastLines(LogFilePath(), kLogLinesInReport);
         if (!lines.empty()) {
             const std::string rule(30, '=');
-            shortText += "\r\n" + LogFilePath().string() + ":\r\n" + rule + "\r\n" + lines + "\r\n" + rule;
+            longText += "\r\n" + LogFilePath().string() + ":\r\n" + rule + "\r\n" + lines + "\r\n" + rule;
         }
     }
     const std::string subject = "Runtime error in " + AppTitleAndVersion;
-    std::string body = ContactMe + "\r\n\r\n" + longText + "\r\n\r\n" + TryingTo + "\r\n\r\n" + WhatHappens;
-    if (ShowProjectInfo) body += "\r\n\r\n" + CurrentStatusInfo(AppTitle(), AppVersion());
-    if (ShowSysInfo) body += "\r\n\r\n" + SystemInformation();
-    if (ShowLocaleInfo) body += "\r\n\r\n" + LocaleInformation();
+    const std::string body = ReportBody(longText);
 
     box.text = shortText + "\r\n\r\nDo you want to report the problem?";
     box.style = kReportStyle;
@@ -164,6 +172,14 @@ int ErrorHandler::Report(ErrorBox box, std::string shortText, const std::string&
 
     if (CMailToProtocol().Send(SendTo, WithoutAmpersands(subject), WithoutAmpersands(body)) != 0) ShowReportFile(body);
     return answer;
+}
+
+std::string ErrorHandler::ReportBody(const std::string& longText) const {
+    std::string body = ContactMe + "\r\n\r\n" + longText + "\r\n\r\n" + TryingTo + "\r\n\r\n" + WhatHappens;
+    if (ShowProjectInfo) body += "\r\n\r\n" + CurrentStatusInfo(AppTitle(), AppVersion());
+    if (ShowSysInfo) body += "\r\n\r\n" + SystemInformation();
+    if (ShowLocaleInfo) body += "\r\n\r\n" + LocaleInformation();
+    return body;
 }
 
 void ErrorHandler::ShowReportFile(const std::string& body) const {

@@ -39,7 +39,16 @@ public:
     static ErrorHandler& Shared();
 
 private:
-    int Report(ErrorBox box, std::string shortText, const std::string& longText, bool pickLines);
+    // The clipboard and busy-application errors: retry or cancel.
+    int AskRetry(ErrorBox box, const std::string& comment) const;
+    void AppendToLog(const std::string& longText) const;
+    // An expected failure: a critical box, with the help button when the
+    // help file is there.
+    int ShowPlain(ErrorBox box, const std::string& shortText) const;
+    int Report(ErrorBox box, std::string shortText, std::string longText, bool pickLines);
+    // The mail's text: contact line, long text, the two questions to the
+    // user and the information sections that are switched on.
+    std::string ReportBody(const std::string& longText) const;
     // When no mail program takes the report: the text in a window instead.
     void ShowReportFile(const std::string& body) const;
 };

@@ -5,7 +5,7 @@ namespace flowloom::pathtext {
 bool IsSeparator(char c) { return c == '/' || c == '\\'; }
 
 char SeparatorOf(std::string_view path) {
-    return path.find('\\') != std::string_view::npos && path.find('/') == std::string_view::npos ? '\\' : '/';
+    return path.find('\\') != std::string_view::npos ? '\\' : '/';
 }
 
 std::string BuildPath(std::string_view path, std::string_view name) {
@@ -68,6 +68,33 @@ std::string GetDriveName(std::string_view path) {
         return std::string(path.substr(0, share == std::string_view::npos ? path.size() : share));
     }
     return {};
+}
+
+FolderLevels SplitFolderLevels(std::string_view path) {
+    std::vector<std::string> parts;
+    std::size_t start = 0;
+    for (std::size_t i = 0; i <= path.size(); ++i) {
+        if (i == path.size() || IsSeparator(path[i])) {
+            parts.emplace_back(path.substr(start, i - start));
+            start = i + 1;
+        }
+    }
+    const char sep = SeparatorOf(path);
+    FolderLevels result;
+    std::size_t first = 0;
+    if (parts.size() >= 4 && parts[0].empty() && parts[1].empty() && !parts[2].empty() && !parts[3].empty()) {
+        result.root = std::string(2, sep) + parts[2] + sep + parts[3];
+        first = 4;
+    } else if (parts[0].size() == 2 && parts[0][1] == ':') {
+        result.root = parts[0];
+        first = 1;
+    } else if (parts[0].empty() && parts.size() > 1) {
+        result.root = std::string(1, sep);
+        first = 1;
+    }
+    for (std::size_t i = first; i < parts.size(); ++i)
+        if (!parts[i].empty()) result.levels.push_back(std::move(parts[i]));
+    return result;
 }
 
 }  // namespace flowloom::pathtext

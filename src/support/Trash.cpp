@@ -1,11 +1,14 @@
 #include "support/Trash.h"
 
 #include "app/VbError.h"
+#include "support/FileErrors.h"
 #include "support/LocalTime.h"
 
+#include <cctype>
+#include <cerrno>
+#include <cstdio>
 #include <cstdlib>
-#include <ctime>
-#include <fstream>
+#include <memory>
 #include <string>
 
 namespace flowloom {
@@ -13,6 +16,11 @@ namespace flowloom {
 namespace fs = std::filesystem;
 
 namespace {
+
+struct FileCloser {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using UniqueFile = std::unique_ptr<std::FILE, FileCloser>;
 
 // Percent-encodes a path for the Path= line of a .trashinfo file.
 std::string EncodePath(const std::string& path) {
@@ -30,6 +38,32 @@ std::string EncodePath(const std::string& path) {
     return out;
 }
 
+bool Exists(const fs::path& path) {
+    std::error_code ec;
+    return fs::exists(fs::symlink_status(path, ec));
+}
+
+// Claims a name in the trash by creating its .trashinfo exclusively, so that
+// two programs trashing the same name at once cannot take the same slot:
+// "name", "name.2", "name.3", ... Returns the name claimed.
+std::string ClaimTrashName(const fs::path& trash, const fs::path& original) {
+    const std::string base = original.filename().string();
+    const std::string record =
+        "[Trash Info]\nPath=" + EncodePath(original.string()) + "\nDeletionDate=" + FormatLocalTime("%Y-%m-%dT%H:%M:%S") + "\n";
+    for (int n = 1;; ++n) {
+        const std::string name = n == 1 ? base : base + "." + std::to_string(n);
+        if (Exists(trash / "files" / name)) continue;
+        UniqueFile info(std::fopen((trash / "info" / (name + ".trashinfo")).c_str(), "wx"));
+        if (!info) {
+            if (errno == EEXIST) continue;
+            RaiseFileError(std::error_code(errno, std::generic_category()), true);
+        }
+        const bool written = std::fwrite(record.data(), 1, record.size(), info.get()) == record.size();
+        if (std::fflush(info.get()) != 0 || !written) RaiseStandardError(61);
+        return name;
+    }
+}
+
 }  // namespace
 
 fs::path TrashFolder() {
@@ -39,29 +73,21 @@ fs::path TrashFolder() {
 }
 
 void MoveToTrash(const fs::path& path) {
-    const fs::path absolute = fs::absolute(path);
-    if (!fs::exists(fs::symlink_status(absolute))) RaiseStandardError(vberr::FileNotFound);
+    fs::path original = fs::absolute(path).lexically_normal();
+    if (original.filename().empty()) original = original.parent_path();  // "folder/" names the folder
+    if (!Exists(original)) RaiseStandardError(vberr::FileNotFound);
     const fs::path trash = TrashFolder();
-    fs::create_directories(trash / "files");
-    fs::create_directories(trash / "info");
-
-    // A name not yet used in the trash: "name", "name.2", "name.3", ...
-    const std::string base = absolute.filename().string();
-    std::string name = base;
-    for (int n = 2; fs::exists(trash / "info" / (name + ".trashinfo")) || fs::exists(fs::symlink_status(trash / "files" / name)); ++n)
-        name = base + "." + std::to_string(n);
-
-    const fs::path info = trash / "info" / (name + ".trashinfo");
-    {
-        std::ofstream out(info, std::ios::binary | std::ios::trunc);
-        out << "[Trash Info]\nPath=" << EncodePath(absolute.string()) << "\nDeletionDate=" << FormatLocalTime("%Y-%m-%dT%H:%M:%S") << "\n";
-        if (!out) RaiseStandardError(75);
-    }
     std::error_code ec;
-    fs::rename(absolute, trash / "files" / name, ec);
-    if (ec) {
-        fs::remove(info);
-        throw VbError(75, StandardErrorText(75) + ": " + ec.message());
+    fs::create_directories(trash / "files", ec);
+    if (!ec) fs::create_directories(trash / "info", ec);
+    if (ec) RaiseFileError(ec, true);
+
+    const std::string name = ClaimTrashName(trash, original);
+    try {
+        MovePath(original, trash / "files" / name);
+    } catch (...) {
+        fs::remove(trash / "info" / (name + ".trashinfo"), ec);
+        throw;
     }
 }
 

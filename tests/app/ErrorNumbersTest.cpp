@@ -1,10 +1,9 @@
 // The system's error numbers, their texts, forms and help contexts.
 #include "app/ErrorNumbers.h"
-#include "app/CXmlMessages.h"
-#include "app/VbError.h"
 
-#include "testsupport/ScriptedPrompts.h"
-#include "testsupport/TempFolder.h"
+#include "app/Common.h"
+#include "app/VbError.h"
+#include "support/AppPaths.h"
 
 #include <gtest/gtest.h>
 
@@ -19,11 +18,23 @@ TEST(ErrorNumbers, UnknownAndUnusedNumbersAreUnspecified) {
     EXPECT_EQ(errnum::Description(30061).find("Label template is incorrect.\r\nSee the help"), 0u);
 }
 
+TEST(ErrorNumbers, SeveralLinesAndTheInstallInstruction) {
+    EXPECT_EQ(errnum::Description(30082),
+              "The database is having a compilation state problem.\r\n"
+              "Close the database and do a 'Reinstall' (second button)\r\nusing the Velorin Installer");
+    const std::string pdf = errnum::Description(30071);
+    EXPECT_NE(pdf.find("or \"Microsoft Save as PDF or XPS\" from "), std::string::npos);
+    EXPECT_NE(pdf.find("https://www.microsoft.com/"), std::string::npos);
+    EXPECT_NE(pdf.find("https://ghostscript.com/"), std::string::npos);
+}
+
 TEST(ErrorNumbers, FormsReplaceEveryOccurrence) {
     EXPECT_EQ(errnum::Description(30051, {"C:\\x.xml"}), "'C:\\x.xml' is not a valid path.");
     EXPECT_EQ(errnum::Description(30015, {"Orders"}), "Datasource Orders does not exist");
     EXPECT_EQ(errnum::Description(30080, {"x"}), errnum::Description(30080));
     EXPECT_EQ(errnum::Description(30021, {"x"}), "MailMerge failed");
+    EXPECT_EQ(errnum::Description(30010, {}), "%1 does not exist.");
+    EXPECT_EQ(errnum::Description(30010, {"a", "b"}), "a does not exist.");
 }
 
 TEST(ErrorNumbers, HelpContexts) {
@@ -42,6 +53,8 @@ TEST(ErrorNumbers, RaiseTakesTheTableTextAndPutsTheContextFirst) {
         EXPECT_EQ(e.Number(), 30063);
         EXPECT_EQ(e.Description(), "Database does not exist");
         EXPECT_EQ(e.HelpContext(), 30000);
+        EXPECT_EQ(e.Source(), AppTitle());
+        EXPECT_EQ(e.HelpFile(), HelpFilePath());
     }
     try {
         errnum::Raise(30063, "Opening Sales");
@@ -49,52 +62,13 @@ TEST(ErrorNumbers, RaiseTakesTheTableTextAndPutsTheContextFirst) {
     } catch (const VbError& e) {
         EXPECT_EQ(e.Description(), "Opening Sales\r\n\r\nDatabase does not exist");
     }
-}
-
-class Catalogue : public ::testing::Test {
-protected:
-    bool Load(const std::string& text) {
-        test::WriteAll(folder / "messages.xml", text);
-        return messages.Load((folder / "messages.xml").string());
+    try {
+        errnum::Raise(30014, "", "Template could not be found at C:\\t.doc.");
+        FAIL();
+    } catch (const VbError& e) {
+        EXPECT_EQ(e.Description(), "Template could not be found at C:\\t.doc.");
+        EXPECT_EQ(e.HelpContext(), 30014);
     }
-    test::TempFolder folder;
-    test::ScriptedPrompts prompts;
-    CXmlMessages messages;
-};
-
-TEST_F(Catalogue, ReadsElementChildrenByCodeWithAttributeNamesInAnyCase) {
-    ASSERT_TRUE(Load(R"(<Root><Messages><!-- note --><Msg Code="10" Text="Ten"/>text<Any CODE="x" text="Ex"/>)"
-                     R"(</Messages></Root>)"));
-    EXPECT_EQ(messages.GetMessage("10"), "Ten");
-    EXPECT_EQ(messages.GetMessage("X"), "Ex");
-    EXPECT_EQ(messages.GetMessage("11"), "");
-    EXPECT_EQ(messages.GetMessage(""), "");
-    EXPECT_TRUE(prompts.boxes.empty());
-}
-
-TEST_F(Catalogue, MissingMessagesNodeFails) {
-    EXPECT_FALSE(Load("<Root><Other/></Root>"));
-    ASSERT_EQ(prompts.boxes.size(), 1u);
-    EXPECT_EQ(prompts.boxes[0].prompt, "The top level node is not 'Messages'.");
-    EXPECT_EQ(prompts.boxes[0].style, msgbox::Critical);
-}
-
-TEST_F(Catalogue, ParseErrorGivesLineReasonAndSource) {
-    EXPECT_FALSE(Load("<Root>\n<Messages>\n</Root>"));
-    ASSERT_EQ(prompts.boxes.size(), 1u);
-    EXPECT_EQ(prompts.boxes[0].prompt.rfind("Error: Line 3\r\n", 0), 0u) << prompts.boxes[0].prompt;
-}
-
-TEST_F(Catalogue, DuplicateCodeEndsTheReadingButKeepsWhatCameBefore) {
-    EXPECT_FALSE(Load(R"(<R><Messages><M Code="1" Text="a"/><M Code="1" Text="b"/><M Code="2" Text="c"/></Messages></R>)"));
-    EXPECT_EQ(messages.GetMessage("1"), "a");
-    EXPECT_EQ(messages.GetMessage("2"), "");
-}
-
-TEST_F(Catalogue, EmptyMessagesNodeKeepsThePreviousTexts) {
-    ASSERT_TRUE(Load(R"(<R><Messages><M Code="1" Text="a"/></Messages></R>)"));
-    ASSERT_TRUE(Load(R"(<R><Messages/></R>)"));
-    EXPECT_EQ(messages.GetMessage("1"), "a");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // File services: names, copies, renames, deletes, the trash and folder trees.
 #include "support/CFSO.h"
 
+#include "support/FileHelpers.h"
 #include "support/PathText.h"
 #include "support/Trash.h"
 #include "testsupport/ScriptedPrompts.h"
@@ -10,6 +11,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <vector>
 
 namespace flowloom::test {
 namespace {
@@ -44,7 +46,41 @@ TEST_F(FileServices, PathTextOfBothPlatforms) {
     EXPECT_EQ(fso.GetDriveName("\\\\server\\share\\a"), "\\\\server\\share");
     EXPECT_EQ(fso.GetDriveName("D:\\x"), "D:");
     EXPECT_EQ(fso.FilePath("C:\\a\\b.doc", true), "C:\\a\\");
+    EXPECT_EQ(fso.FilePath("C:\\a\\b.doc", false), "C:\\a");
     EXPECT_EQ(fso.FileName("/x/y/z.txt"), "z.txt");
+    EXPECT_EQ(BuildPath("/srv/data", "x.doc"), "/srv/data/x.doc");
+    EXPECT_EQ(BuildPath("C:\\data/sub", "x.doc"), "C:\\data/sub\\x.doc");
+    EXPECT_EQ(BuildPath("", "x.doc"), "x.doc");
+    EXPECT_EQ(GetParentFolderName("\\\\server\\share\\a.mdb"), "\\\\server\\share");
+    EXPECT_EQ(GetParentFolderName("/x.xml"), "/");
+    EXPECT_EQ(GetParentFolderName("x.xml"), "");
+}
+
+TEST_F(FileServices, FilePathOfExistingAndBareNames) {
+    const std::string file = Make("a.txt");
+    EXPECT_EQ(FilePath(file, true), folder.Path().string() + "/");
+    EXPECT_EQ(FilePath(file, false), folder.Path().string());
+    EXPECT_EQ(FilePath("a.txt", true), "");  // no folder, and not the root either
+    EXPECT_EQ(FilePath("/a.txt", true), "/");
+    EXPECT_TRUE(FileExists(file));
+    EXPECT_FALSE(FolderExists(file));
+    EXPECT_TRUE(FolderExists(folder.Path().string()));
+    EXPECT_FALSE(FileExists(""));
+}
+
+TEST(FolderLevels, RootsAreNeverAmongTheLevelsToCreate) {
+    const auto unc = pathtext::SplitFolderLevels("\\\\server\\share\\a\\b");
+    EXPECT_EQ(unc.root, "\\\\server\\share");
+    EXPECT_EQ(unc.levels, (std::vector<std::string>{"a", "b"}));
+    const auto drive = pathtext::SplitFolderLevels("C:\\x\\\\y\\");
+    EXPECT_EQ(drive.root, "C:");
+    EXPECT_EQ(drive.levels, (std::vector<std::string>{"x", "y"}));
+    const auto unix = pathtext::SplitFolderLevels("/home/u/new");
+    EXPECT_EQ(unix.root, "/");
+    EXPECT_EQ(unix.levels, (std::vector<std::string>{"home", "u", "new"}));
+    const auto relative = pathtext::SplitFolderLevels("a/b");
+    EXPECT_EQ(relative.root, "");
+    EXPECT_EQ(relative.levels, (std::vector<std::string>{"a", "b"}));
 }
 
 TEST_F(FileServices, CopyIntoItsOwnFolderNumbersTheCopies) {
@@ -56,6 +92,32 @@ TEST_F(FileServices, CopyIntoItsOwnFolderNumbersTheCopies) {
     ASSERT_TRUE(fso.CopyFile(source, {}, name));
     EXPECT_EQ(name, "Copy (2) of x.txt");
     EXPECT_TRUE(fs::exists(folder / "Copy (2) of x.txt"));
+}
+
+TEST_F(FileServices, CopyOfAFolderTakesItsContents) {
+    fs::create_directory(folder / "dir");
+    WriteAll(folder / "dir" / "inner.txt", "inside");
+    std::string name;
+    ASSERT_TRUE(fso.CopyFolder((folder / "dir").string(), folder.Path().string(), name));
+    EXPECT_EQ(name, "Copy of dir");
+    EXPECT_EQ(ReadAll(folder / "Copy of dir" / "inner.txt"), "inside");
+    fs::create_directory(folder / "elsewhere");
+    name = "renamed";
+    ASSERT_TRUE(fso.CopyFolder((folder / "dir").string(), (folder / "elsewhere").string(), name));
+    EXPECT_TRUE(fs::exists(folder / "elsewhere" / "renamed" / "inner.txt"));
+}
+
+TEST_F(FileServices, FailuresAreReportedAsFileErrorsUnlessSilent) {
+    std::string name;
+    EXPECT_FALSE(fso.CopyFile((folder / "missing.txt").string(), (folder / "x").string(), name));
+    ASSERT_EQ(prompts.errors.size(), 1u);
+    EXPECT_EQ(prompts.errors[0].number, 53);
+    EXPECT_EQ(prompts.errors[0].text, "Error 53: File not found ");
+    fso.CreateFolder(folder.Path().string());
+    ASSERT_EQ(prompts.errors.size(), 2u);
+    EXPECT_EQ(prompts.errors[1].number, 58);
+    EXPECT_FALSE(fso.DeleteFolder((folder / "missing").string(), false, false, true));
+    EXPECT_EQ(prompts.errors.size(), 2u);
 }
 
 TEST_F(FileServices, MoveRefusesExistingTargetsWithTheirMessages) {
@@ -92,6 +154,8 @@ TEST_F(FileServices, RenamingOntoAFolderNameIsRefusedLikeAFile) {
               "Cannot rename 'a.txt': A file or folder with the name you specified already exists. Specify a different name.");
     EXPECT_TRUE(fso.RenameFile(source, "c.txt"));
     EXPECT_TRUE(fs::exists(folder / "c.txt"));
+    EXPECT_TRUE(fso.RenameFolder((folder / "taken").string(), "free"));
+    EXPECT_TRUE(fs::is_directory(folder / "free"));
 }
 
 TEST_F(FileServices, DeleteAsksFirstAndNoKeepsTheFile) {
@@ -106,19 +170,44 @@ TEST_F(FileServices, DeleteAsksFirstAndNoKeepsTheFile) {
     EXPECT_TRUE(prompts.errors.empty());
 }
 
+// Points the desktop's data folder at a temporary one for the test's scope.
+class ScopedDataHome {
+public:
+    ScopedDataHome() : had_(std::getenv("XDG_DATA_HOME") != nullptr) {
+        if (had_) saved_ = std::getenv("XDG_DATA_HOME");
+        setenv("XDG_DATA_HOME", data_.Path().c_str(), 1);
+    }
+    ~ScopedDataHome() {
+        if (had_) setenv("XDG_DATA_HOME", saved_.c_str(), 1);
+        else unsetenv("XDG_DATA_HOME");
+    }
+    fs::path Trash() const { return data_ / "Trash"; }
+
+private:
+    TempFolder data_;
+    bool had_;
+    std::string saved_;
+};
+
 TEST_F(FileServices, RecycleBinIsTheDesktopTrash) {
-    TempFolder data;
-    const char* old = std::getenv("XDG_DATA_HOME");
-    const std::string saved = old ? old : "";
-    setenv("XDG_DATA_HOME", data.Path().c_str(), 1);
-    const std::string file = Make("old letter.txt");
+    ScopedDataHome home;
+    const std::string file = Make("old letter.txt", "first");
     EXPECT_TRUE(fso.DeleteFile(file, true, false, false));
     EXPECT_FALSE(fs::exists(file));
-    EXPECT_TRUE(fs::exists(data / "Trash" / "files" / "old letter.txt"));
-    const std::string info = ReadAll(data / "Trash" / "info" / "old letter.txt.trashinfo");
-    EXPECT_NE(info.find("Path=" + folder.Path().string() + "/old%20letter.txt"), std::string::npos) << info;
-    if (old) setenv("XDG_DATA_HOME", saved.c_str(), 1);
-    else unsetenv("XDG_DATA_HOME");
+    EXPECT_EQ(ReadAll(home.Trash() / "files" / "old letter.txt"), "first");
+    const std::string info = ReadAll(home.Trash() / "info" / "old letter.txt.trashinfo");
+    EXPECT_EQ(info.rfind("[Trash Info]\nPath=" + folder.Path().string() + "/old%20letter.txt\nDeletionDate=", 0), 0u)
+        << info;
+
+    // The same name again takes the next free slot and keeps the first.
+    Make("old letter.txt", "second");
+    EXPECT_TRUE(fso.RemoveToRecycleBin(file, false));
+    EXPECT_EQ(ReadAll(home.Trash() / "files" / "old letter.txt.2"), "second");
+    EXPECT_TRUE(fs::exists(home.Trash() / "info" / "old letter.txt.2.trashinfo"));
+
+    fs::create_directories(folder / "dir" / "sub");
+    EXPECT_TRUE(fso.DeleteFolder((folder / "dir").string() + "/", true, false, false));
+    EXPECT_TRUE(fs::is_directory(home.Trash() / "files" / "dir" / "sub"));
 }
 
 TEST_F(FileServices, CreateFoldersMakesEveryLevelAndStopsAtAFile) {
@@ -127,6 +216,8 @@ TEST_F(FileServices, CreateFoldersMakesEveryLevelAndStopsAtAFile) {
     Make("file");
     EXPECT_FALSE(fso.CreateFolders((folder / "file" / "x" / "y").string()));
     EXPECT_FALSE(fs::exists(folder / "file" / "x"));
+    EXPECT_TRUE(fs::is_directory(folder / "a" / "b"));
+    EXPECT_TRUE(fso.CreateFolders((folder / "a" / "b").string()));  // all there already
 }
 
 TEST_F(FileServices, NewFolderNamesCountUpFromTwo) {

@@ -3,11 +3,14 @@
 
 #include "app/ReportError.h"
 #include "support/AppPaths.h"
-#include "support/CMailToProtocol.h"
 #include "testsupport/ScriptedPrompts.h"
 #include "testsupport/TempFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
 
 namespace flowloom::test {
 namespace {
@@ -89,12 +92,18 @@ TEST_F(Handler, WithoutAMailProgramTheReportIsShownAsText) {
 }
 
 TEST_F(Handler, LastLogLinesGoIntoTheReport) {
-    Show(53, "quiet", true);
-    prompts.answers = {msgbox::No};
+    for (int i = 0; i < 14; ++i) Show(53, "quiet " + std::to_string(i), true);
+    prompts.answers = {msgbox::Yes};
+    prompts.openUrlSucceeds = false;
     Show(30021, "loud", false, true);
-    const std::string& text = prompts.errors.back().text;
-    EXPECT_NE(text.find("errorlog.txt:\r\n" + std::string(30, '=') + "\r\n"), std::string::npos) << text;
-    EXPECT_NE(text.find("quiet"), std::string::npos);
+    ASSERT_EQ(prompts.texts.size(), 1u);
+    const std::string& report = prompts.texts[0];
+    EXPECT_NE(report.find("errorlog.txt:\r\n" + std::string(30, '=') + "\r\n"), std::string::npos) << report;
+    // Twelve lines: the report's own record and the five before it, two lines each.
+    EXPECT_EQ(report.find("quiet 8\r\n"), std::string::npos);
+    EXPECT_NE(report.find("quiet 9\r\n"), std::string::npos);
+    EXPECT_NE(report.find("quiet 13\r\n"), std::string::npos);
+    EXPECT_EQ(prompts.errors.back().text.find("quiet"), std::string::npos);
 }
 
 TEST_F(Handler, ClipboardErrorsAskForARetryAndPassTheAnswerBack) {
@@ -116,17 +125,63 @@ TEST_F(Handler, ReportErrorPassesModuleAndProcedure) {
     EXPECT_NE(Log().find("in Processes.Load"), std::string::npos);
 }
 
-TEST(MailTo, LinkEncodesAndCutsAtTheLastLineEnd) {
-    EXPECT_EQ(CMailToProtocol::BuildLink("a@b.c", "Hi there", "x\r\ny", "c@d.e", "", false),
-              "mailto:a@b.c?CC=c@d.e&Subject=Hi%20there&Body=x%0d%0ay");
-    std::string body;
-    for (int i = 0; i < 300; ++i) body += "line " + std::to_string(i) + "\r\n";
-    const std::string cut = CMailToProtocol::BuildLink("a@b.c", "s", body, "", "", true);
-    EXPECT_LE(cut.size(), 2003u);
-    EXPECT_EQ(cut.substr(cut.size() - 9), "%0d%0a...");
-    const std::string plain = CMailToProtocol::BuildLink("a@b.c", "s", body, "", "", false);
-    EXPECT_EQ(plain.size(), 2003u);
-    EXPECT_EQ(CMailToProtocol::BuildLink("a", "s", std::string(3000, 'x'), "", "", true).size(), 2003u);
+TEST_F(Handler, HelpButtonOnlyWithAHelpFileAndASmallContext) {
+    const std::string help = (folder / "flowloom.chm").string();
+    WriteAll(help, "help");
+    handler.ErrorMessage(30063, -1, "Database does not exist", "", "", "", false, false, false, help, 30000);
+    handler.ErrorMessage(30063, -1, "Database does not exist", "", "", "", false, false, false, help, 1000001);
+    handler.ErrorMessage(30063, -1, "Database does not exist", "", "", "", false, false, false,
+                         (folder / "none.chm").string(), 30000);
+    ASSERT_EQ(prompts.errors.size(), 3u);
+    EXPECT_EQ(prompts.errors[0].style, 16400);
+    EXPECT_EQ(prompts.errors[0].helpFile, help);
+    EXPECT_EQ(prompts.errors[0].helpContext, 30000);
+    EXPECT_EQ(prompts.errors[1].style, 16);
+    EXPECT_EQ(prompts.errors[2].style, 16);
+}
+
+TEST_F(Handler, TextsWithCommentLocationAndWithoutNumbers) {
+    prompts.answers = {msgbox::No, msgbox::No};
+    handler.ErrorMessage(91, 120, "Object required", "While saving", "Processes", "Save", true, false, false, "", 0);
+    EXPECT_EQ(prompts.errors[0].text,
+              "Error 91: Object required \r\n\r\nWhile saving\r\n\r\nDo you want to report the problem?");
+    EXPECT_NE(Log().find(" Error 91: Object required\r\n in Processes.Save line 120 \r\n\r\nWhile saving\r\n"),
+              std::string::npos)
+        << Log();
+    handler.ErrorMessage(-1, -1, "Plain words", "", "", "", true, false, false, "", 0);
+    EXPECT_EQ(prompts.errors[1].text, "Plain words\r\n\r\nDo you want to report the problem?");
+    EXPECT_EQ(prompts.errors[1].number, -1);
+    EXPECT_EQ(prompts.errors[1].description, "Plain words");
+}
+
+TEST_F(Handler, ReportCarriesTheInformationSectionsThatAreSwitchedOn) {
+    handler.ShowSysInfo = true;
+    handler.ShowLocaleInfo = true;
+    prompts.answers = {msgbox::Yes};
+    prompts.openUrlSucceeds = false;
+    Show(30021, "boom");
+    ASSERT_EQ(prompts.texts.size(), 1u);
+    const std::string& report = prompts.texts[0];
+    EXPECT_EQ(report.find("[Current Status Info]"), std::string::npos);
+    EXPECT_NE(report.find("[System Information]\r\nOS: "), std::string::npos) << report;
+    EXPECT_NE(report.find("Physical memory: "), std::string::npos);
+    EXPECT_NE(report.find("[Locale information]\r\nLanguage: "), std::string::npos);
+    EXPECT_NE(report.find("Decimal separator: "), std::string::npos);
+    EXPECT_NE(report.find("Please contact me about the following problem:\r\n\r\nError 30021: boom"),
+              std::string::npos);
+    EXPECT_NE(report.find("DESCRIBE WHAT YOU TRY TO DO: \r\n\r\nDESCRIBE WHAT HAPPENS: "), std::string::npos);
+}
+
+TEST_F(Handler, TheFallbackReportFileIsRemovedAfterShowing) {
+    prompts.answers = {msgbox::Yes};
+    prompts.openUrlSucceeds = false;
+    const auto before = std::distance(std::filesystem::directory_iterator(std::filesystem::temp_directory_path()),
+                                      std::filesystem::directory_iterator());
+    Show(30021, "boom");
+    const auto after = std::distance(std::filesystem::directory_iterator(std::filesystem::temp_directory_path()),
+                                     std::filesystem::directory_iterator());
+    EXPECT_EQ(prompts.texts.size(), 1u);
+    EXPECT_EQ(before, after);
 }
 
 }  // namespace
