@@ -1,29 +1,26 @@
 #include "support/SystemInfo.h"
 
+#include "app/VbStrings.h"
 #include "support/LocalTime.h"
 
 #include <langinfo.h>
 #include <sys/stat.h>
 #include <sys/utsname.h>
-#include <unistd.h>
 
-#include <chrono>
-#include <clocale>
+#include <locale.h>
+#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <memory>
+#include <type_traits>
 
 namespace flowloom {
 
 namespace {
 
 // "#,##0": thousands separated by commas.
-std::string Grouped(unsigned long long value) {
-    std::string digits = std::to_string(value);
-    for (int i = static_cast<int>(digits.size()) - 3; i > 0; i -= 3) digits.insert(static_cast<std::size_t>(i), ",");
-    return digits;
-}
+std::string Grouped(unsigned long long value) { return vb::GroupDigits(std::to_string(value)); }
 
 unsigned long long MemInfoKb(const std::string& key) {
     std::ifstream in("/proc/meminfo");
@@ -33,6 +30,17 @@ unsigned long long MemInfoKb(const std::string& key) {
     while (in >> name >> value >> unit)
         if (name == key + ":") return value;
     return 0;
+}
+
+struct LocaleFree {
+    void operator()(locale_t locale) const { freelocale(locale); }
+};
+
+// The locale's name as the environment gives it for messages, e.g. "de_DE.UTF-8".
+std::string UserLanguage() {
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"})
+        if (const char* value = std::getenv(name); value && *value) return value;
+    return "C";
 }
 
 std::string ExecutablePath() {
@@ -67,12 +75,17 @@ std::string SystemInformation() {
 }
 
 std::string LocaleInformation() {
-    const char* language = std::setlocale(LC_MESSAGES, nullptr);
-    const std::lconv* conv = std::localeconv();
-    return std::string("[Locale information]\r\nLanguage: ") + (language ? language : "") +
-           "\r\nList separator: ;\r\nDecimal separator: " + (conv && conv->decimal_point ? conv->decimal_point : ".") +
-           "\r\nThousand separator: " + (conv && conv->thousands_sep ? conv->thousands_sep : "") +
-           "\r\nShort date: " + nl_langinfo(D_FMT) + "\r\nLong date: " + nl_langinfo(D_T_FMT);
+    // The user's locale from the environment, read without switching the
+    // program's own (which stays "C" for number and date texts).
+    const std::unique_ptr<std::remove_pointer_t<locale_t>, LocaleFree> user(newlocale(LC_ALL_MASK, "", nullptr));
+    const locale_t locale = user ? user.get() : nullptr;
+    auto item = [locale](nl_item what) { return std::string(locale ? nl_langinfo_l(what, locale) : nl_langinfo(what)); };
+    const std::string decimal = item(RADIXCHAR);
+    // POSIX has no list separator; the usual one is ";" where "," is the decimal separator.
+    const std::string list = decimal == "," ? ";" : ",";
+    return "[Locale information]\r\nLanguage: " + UserLanguage() + "\r\nList separator: " + list +
+           "\r\nDecimal separator: " + decimal + "\r\nThousand separator: " + item(THOUSEP) +
+           "\r\nShort date: " + item(D_FMT) + "\r\nLong date: " + item(D_T_FMT);
 }
 
 }  // namespace flowloom
