@@ -137,7 +137,7 @@ std::string Description(std::int32_t code, const std::vector<std::string>& args)
     const auto& forms = Forms();
     auto it = forms.find(code);
     std::string text = it == forms.end() ? Description(code) : it->second;
-    for (std::size_t i = 0; i < args.size(); ++i) text = vb::Replace(text, "%" + std::to_string(i + 1), args[i]);
+    for (std::size_t i = 0; i < args.size(); ++i) text = vb::Replace(text, std::string(1, '%').append(std::to_string(i + 1)), args[i]);
     return text;
 }
 
@@ -155,9 +155,9 @@ std::int32_t HelpContext(std::int32_t code) {
     }
 }
 
-void Raise(std::int32_t code, const std::string& context, const std::string& description) {
+void Raise(std::int32_t code, std::string context, const std::string& description) {
     std::string text = description.empty() ? Description(code) : description;
-    if (!context.empty()) text = context + "\r\n\r\n" + text;
+    if (!context.empty()) text = context.append("\r\n\r\n").append(text);
     throw VbError(code, text, AppTitle(), HelpFilePath(), HelpContext(code));
 }
 

@@ -26,6 +26,6 @@ std::int32_t HelpContext(std::int32_t code);
 
 // Raises the error: an empty description takes the table's text; a context
 // goes in front, followed by two line ends. Source is the product's title.
-[[noreturn]] void Raise(std::int32_t code, const std::string& context = {}, const std::string& description = {});
+[[noreturn]] void Raise(std::int32_t code, std::string context = {}, const std::string& description = {});
 
 }  // namespace flowloom::errnum

@@ -184,7 +184,7 @@ std::string ErrorHandler::ReportBody(const std::string& longText) const {
 
 void ErrorHandler::ShowReportFile(const std::string& body) const {
     std::error_code ec;
-    const auto path = std::filesystem::temp_directory_path(ec) / ("~" + FormatLocalTime("%Y%m%d%H%M%S") + ".txt");
+    const auto path = std::filesystem::temp_directory_path(ec) / (std::string(1, '~').append(FormatLocalTime("%Y%m%d%H%M%S")).append(".txt"));
     const std::string text = PleaseSend + SendTo + "\r\n---\r\n\r\n" + body;
     {
         std::ofstream out(path, std::ios::binary | std::ios::trunc);
