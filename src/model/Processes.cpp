@@ -8,6 +8,7 @@
 #include "model/Groups.h"
 #include "model/Process.h"
 #include "support/AtomicFile.h"
+#include "support/FileBytes.h"
 #include "model/xml/CProcessesXMLDoc.h"
 #include "model/xml/UpdateVersion.h"
 #include "options/Options.h"
@@ -15,21 +16,11 @@
 #include "support/Prompts.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 namespace flowloom {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-std::string ReadWholeFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-}
-
-}  // namespace
 
 Processes::Processes(Passkey)
     : databases_(std::make_shared<flowloom::Databases>()), options_(std::make_shared<flowloom::Options>()) {}
@@ -73,7 +64,7 @@ void Processes::Load(const std::string& fileName, std::shared_ptr<void> applicat
         if (exists) {
             sourceXmlReady_ = false;
             sourceXml_.clear();
-            loadedText_ = ReadWholeFile(processesFile_);
+            loadedText_ = ReadFileBytes(processesFile_).value_or(std::string());
             lastXmlSize_ = loadedText_.size();
             XmlDocument document;
             document.LoadXml(loadedText_);

@@ -2,6 +2,7 @@
 
 #include "app/TextCompare.h"
 #include "app/VbError.h"
+#include "support/FileBytes.h"
 
 #include <fstream>
 #include <iterator>
@@ -37,14 +38,13 @@ const char* ReasonText(pugi::xml_parse_status status) {
 }  // namespace
 
 bool XmlDocument::Load(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) {
+    const std::optional<std::string> text = ReadFileBytes(path);
+    if (!text) {
         document_.reset();
         error_ = {0, ReasonText(pugi::status_file_not_found), {}};
         return false;
     }
-    std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-    return LoadXml(text);
+    return LoadXml(*text);
 }
 
 bool XmlDocument::LoadXml(std::string_view text) {
