@@ -84,7 +84,6 @@ public:
             if (entries_[i].item.get() == item) return static_cast<std::int32_t>(i + 1);
         return 0;
     }
-    const std::string& KeyAt(std::int32_t index) const { return entries_[CheckedIndex(index)].key; }
 
     void Clear() noexcept {
         entries_.clear();

@@ -42,8 +42,6 @@ std::optional<bool> ToBool(std::string_view text);
 
 // CStr of a number: integers without a decimal point, others shortest form.
 std::string NumberText(double value);
-// The decimal text of a boolean as the file stores it: "-1" or "0".
-inline const char* BoolText(bool value) { return value ? "-1" : "0"; }
 
 // Format(value, "0.0000000000") of a serial day number: the fraction of the
 // present day, as used in backup and temporary names.

@@ -83,15 +83,6 @@ void XmlDocument::AppendDeclaration() {
 
 std::string XmlDocument::XML(std::size_t sizeHint) const { return SerializeNode(document_, sizeHint); }
 
-void XmlDocument::Save(const std::filesystem::path& path) const {
-    const std::string text = XML();
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    if (!out) RaiseStandardError(vberr::PathNotFound);
-    out.write(text.data(), static_cast<std::streamsize>(text.size()));
-    out.flush();
-    if (!out) RaiseStandardError(61);  // disk full
-}
-
 namespace {
 
 // Escapes for attribute values: the markup characters as entities, control

@@ -41,8 +41,6 @@ public:
     // The serialised text ("xml" of the document object); a good guess of
     // its size saves the copies of a growing string.
     std::string XML(std::size_t sizeHint = 0) const;
-    // Writes exactly XML() to the file; throws VbError on failure.
-    void Save(const std::filesystem::path& path) const;
 
 private:
     void SetParseError(const pugi::xml_parse_result& result, std::string_view text);
