@@ -4,9 +4,6 @@
 #include "app/VbError.h"
 #include "support/FileBytes.h"
 
-#include <fstream>
-#include <iterator>
-#include <sstream>
 
 namespace flowloom {
 
