@@ -156,7 +156,7 @@ void Properties::SortRun(std::size_t first, std::size_t last, bool descending) {
 void Properties::SortItems(bool bDescending) {
     if (Count() < 2) return;
     if (owner_) {
-        owner_->CommitPending();
+        owner_->CommitPendingEdit();
         owner_->HideEditors();
     }
     // Runs between headers are sorted apart; a header stays where it stands,

@@ -202,7 +202,7 @@ void Property::SetMaxLength(std::int32_t length) {
 std::string Property::DisplayText() {
     std::string text = value_;
     if (itemType_ == ExPropFont) text = text.substr(0, text.find(kFieldSeparator));
-    if (useCustomData_ && owner_) owner_->QueryCustomData(*this, text);
+    if (useCustomData_ && owner_) owner_->CustomDisplayText(*this, text);
     return text;
 }
 

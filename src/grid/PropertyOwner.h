@@ -35,13 +35,14 @@ public:
     // The selected row's value changed: the edit box shows the new text.
     virtual void SetEditText(const std::string&) {}
     // Lets the owner replace the text a row displays.
-    virtual void QueryCustomData(Property&, std::string&) {}
+    virtual void CustomDisplayText(Property&, std::string&) {}
     virtual void RebuildVisibleRows() {}
     virtual void AddVisibleRow(Property&) {}
     // The collection was emptied: clear the list and the longest item.
     virtual void RowsCleared() {}
     virtual void ClearSelectionIf(const Property&) {}
-    virtual void CommitPending() {}
+    // Ends an edit in progress before the rows move; nothing without a selection.
+    virtual void CommitPendingEdit() {}
     virtual void WidenPictureColumn(int) {}
 };
 

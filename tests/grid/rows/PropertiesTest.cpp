@@ -24,7 +24,7 @@ public:
     void ClearSelectionIf(const Property& row) override {
         if (&row == selected) selected = nullptr;
     }
-    void QueryCustomData(Property&, std::string& text) override { text = "<" + text + ">"; }
+    void CustomDisplayText(Property&, std::string& text) override { text = "<" + text + ">"; }
 
     const Property* selected = nullptr;
     int redraws = 0;
