@@ -46,13 +46,16 @@ DropList::DropList(QWidget* owner) : PopupFrame(owner), list_(new QListWidget(th
 void DropList::SetEntries(const std::vector<std::string>& entries, const std::string& current, const QFont& font) {
     list_->clear();
     list_->setFont(font);
-    int currentIndex = -1;
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        list_->addItem(QString::fromStdString(entries[i]));
-        if (entries[i] == current) currentIndex = static_cast<int>(i);  // the last equal entry wins
+    for (const std::string& entry : entries) {
+        list_->addItem(QString::fromStdString(entry));
+        list_->item(list_->count() - 1)->setSizeHint(QSize(0, ItemHeight()));
     }
-    for (int i = 0; i < list_->count(); ++i) list_->item(i)->setSizeHint(QSize(0, ItemHeight()));
-    SetCurrentIndex(currentIndex);
+    SetCurrentIndex(IndexOf(current));
+}
+
+int DropList::IndexOf(const std::string& text) const {
+    const QList<QListWidgetItem*> matches = list_->findItems(QString::fromStdString(text), Qt::MatchExactly | Qt::MatchCaseSensitive);
+    return matches.isEmpty() ? -1 : list_->row(matches.back());  // the last equal entry wins
 }
 
 int DropList::Count() const { return list_->count(); }

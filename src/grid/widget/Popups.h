@@ -39,6 +39,8 @@ public:
     int CurrentIndex() const;
     void SetCurrentIndex(int index);
     std::string Entry(int index) const;
+    // Position of the last entry equal to the text, or -1.
+    int IndexOf(const std::string& text) const;
     int ItemHeight() const;
     // 8 rows and the frame from 9 entries on, else each entry with 2 pixels
     // to spare: the two rules differ on purpose.

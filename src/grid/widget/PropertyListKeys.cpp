@@ -119,7 +119,7 @@ void PropertyList::ListKeyPress(int keyAscii, QKeyEvent& event) {
 // the entry they reach.
 void PropertyList::StepClosedList(int keyCode) {
     if (!FillDropList() || drop_->Count() == 0) return;
-    int index = drop_->CurrentIndex();
+    int index = drop_->IndexOf(edit_->text().toStdString());
     if (keyCode == vk::Up) index = std::max(0, index - 1);
     else if (keyCode == vk::Down) index = std::min(drop_->Count() - 1, index + 1);
     else if (keyCode == vk::Home) index = 0;
