@@ -1,0 +1,250 @@
+// The control as an owner sees it: headers, events through sink or signals,
+// handlers that rebuild the rows, settings with their errors, the divider.
+#include "GridTestSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace flowloom::grid::testing {
+namespace {
+
+std::int32_t ErrorNumber(const std::function<void()>& call, std::string* source = nullptr) {
+    try {
+        call();
+    } catch (const VbError& error) {
+        if (source) *source = error.Source();
+        return error.Number();
+    }
+    return 0;
+}
+
+int VisibleRows(GridHarness& h) {
+    int rows = 0;
+    for (int y = 0; y < h.List()->height(); ++y) {
+        const QPoint at = h.List()->mapTo(&h.grid(), QPoint(10, y));
+        Property* row = h.grid().HitTest(at.x(), at.y());
+        if (row && (y == 0 || row != h.grid().HitTest(at.x(), at.y() - 1))) ++rows;
+    }
+    return rows;
+}
+
+TEST(GridHeaders, CollapseAndExpandByClickAndNumpadKeys) {
+    GridHarness h;
+    h.grid().SetExpandableHeaders(true);
+    Properties& rows = h.grid().Properties();
+    Property& general = rows.Add("General", ExPropHeader, "");
+    rows.Add("Name", ExPropText, "");
+    rows.Add("Size", ExPropNumber, "1");
+    rows.Add("More", ExPropHeader, "");
+    rows.Add("Note", ExPropText, "");
+    EXPECT_EQ(VisibleRows(h), 5);
+
+    QTest::mouseClick(h.List(), Qt::LeftButton, {}, QPoint(3, h.Cell(0, false).y()));
+    EXPECT_FALSE(general.Expanded());
+    EXPECT_EQ(VisibleRows(h), 3);
+    EXPECT_TRUE(h.sink.Logged("PreExpand General"));
+    EXPECT_TRUE(h.sink.Logged("Collapse General"));
+
+    h.Key(h.List(), Qt::Key_Minus, Qt::KeypadModifier);  // already collapsed
+    EXPECT_EQ(h.sink.Count("Collapse"), 1u);
+    h.Key(h.List(), Qt::Key_Plus, Qt::KeypadModifier);
+    EXPECT_TRUE(general.Expanded());
+    EXPECT_TRUE(h.sink.Logged("Expand General"));
+    EXPECT_EQ(VisibleRows(h), 5);
+    h.Key(h.List(), Qt::Key_Minus, Qt::KeypadModifier);
+    EXPECT_EQ(VisibleRows(h), 3);
+    h.Key(h.List(), Qt::Key_Return);
+    EXPECT_EQ(VisibleRows(h), 5);
+
+    h.ClickCell(0, true);  // a click right of the box only selects
+    EXPECT_TRUE(general.Expanded());
+}
+
+TEST(GridHeaders, RowsAddedBehindACollapsedHeaderStayHidden) {
+    GridHarness h;
+    h.grid().SetExpandableHeaders(true);
+    Properties& rows = h.grid().Properties();
+    Property& header = rows.Add("Header", ExPropHeader, "");
+    Property& inside = rows.Add("Inside", ExPropText, "");
+    h.Select(1);
+    header.SetExpanded(false);
+    EXPECT_EQ(h.grid().SelectedItem(), &inside);  // selected although hidden
+    rows.Add("Later", ExPropText, "");
+    EXPECT_EQ(VisibleRows(h), 1);
+    header.SetExpanded(true);
+    EXPECT_EQ(VisibleRows(h), 3);
+
+    h.grid().SetExpandableHeaders(false);
+    h.grid().SetAlwaysShowHeaders(false);
+    EXPECT_EQ(VisibleRows(h), 2);
+}
+
+TEST(GridEvents, TheSinkSilencesTheSignalsUntilCleared) {
+    GridHarness h;
+    Property& row = h.grid().Properties().Add("Flag", ExPropBoolean, "True");
+    int signalled = 0;
+    QObject::connect(&h.grid(), &PropertyList::ValueChanged, [&](Property*, std::string& value, bool& cancel) {
+        ++signalled;
+        cancel = value == "True";
+    });
+    int clicks = 0;
+    QObject::connect(&h.grid(), &PropertyList::DblClick, [&] { ++clicks; });
+
+    QTest::mouseDClick(h.List(), Qt::LeftButton, {}, h.Cell(0, false));
+    EXPECT_EQ(signalled, 0);
+    EXPECT_EQ(h.sink.Count("ValueChanged"), 1u);
+    EXPECT_EQ(clicks, 1);  // always raised
+    EXPECT_EQ(row.value(), "False");
+
+    h.grid().SetCallbackSink(nullptr);
+    QTest::mouseDClick(h.List(), Qt::LeftButton, {}, h.Cell(0, false));
+    EXPECT_EQ(signalled, 1);
+    EXPECT_EQ(h.sink.Count("ValueChanged"), 1u);
+    EXPECT_EQ(row.value(), "False");  // the signal's handler cancelled
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST(GridEvents, HandlersMayRebuildTheRowsFromInsideValueChanged) {
+    GridHarness h;
+    Properties& rows = h.grid().Properties();
+    auto fill = [&rows] {
+        rows.Clear();
+        rows.Add("Name", ExPropText, "rebuilt");
+        Property& list = rows.Add("Kind", ExPropCustomList, "A");
+        list.SetListItems(std::vector<std::string>{"A", "B"});
+        rows.Add("Flag", ExPropBoolean, "True");
+    };
+    fill();
+    h.sink.onValueChanged = [&](Property&, std::string&) { fill(); };
+
+    h.ClickCell(0, true);
+    h.Edit()->setFocus();
+    h.Edit()->setText("typed");
+    h.Key(h.Edit(), Qt::Key_Return);
+    EXPECT_EQ(rows.Item(1).value(), "rebuilt");
+
+    QTest::mouseDClick(h.List(), Qt::LeftButton, {}, h.Cell(2, false));
+    EXPECT_EQ(rows.Item(3).value(), "True");
+
+    h.Select(1);
+    h.ClickButton();
+    ASSERT_TRUE(h.DropList()->isVisible());
+    h.Key(h.DropEntries(), Qt::Key_Down);
+    h.Key(h.DropEntries(), Qt::Key_Return);
+    EXPECT_EQ(rows.Item(2).value(), "A");
+
+    h.sink.onValueChanged = [&](Property& row, std::string&) { rows.Remove(row.Index()); };
+    h.Select(0);
+    h.Edit()->setText("gone");
+    h.ClickCell(1, false);
+    EXPECT_EQ(rows.Count(), 2);
+    EXPECT_EQ(rows.Item(1).name(), "Kind");
+}
+
+TEST(GridEvents, KeysAndClicksReachTheOwner) {
+    GridHarness h;
+    h.grid().Properties().Add("A", ExPropText, "");
+    h.grid().Properties().Add("B", ExPropText, "");
+    std::vector<int> keys;
+    QObject::connect(&h.grid(), &PropertyList::KeyDown, [&](int& code, int) { keys.push_back(code); });
+    int clicks = 0;
+    QObject::connect(&h.grid(), &PropertyList::Click, [&] { ++clicks; });
+    h.Select(0);
+    EXPECT_EQ(clicks, 1);
+    h.List()->setFocus();
+    h.Key(h.List(), Qt::Key_Down);
+    EXPECT_EQ(keys, std::vector<int>{40});
+    EXPECT_EQ(h.grid().ListIndex(), 1);
+    EXPECT_TRUE(h.sink.Logged("SelChange A>B"));
+
+    h.Edit()->setFocus();
+    h.Key(h.Edit(), Qt::Key_A);
+    EXPECT_TRUE(h.sink.Logged("KeyDownEdit 65"));
+    EXPECT_TRUE(h.sink.Logged("KeyPressEdit 97"));
+    h.Key(h.Edit(), Qt::Key_Up);  // back to the control, which moves up
+    EXPECT_EQ(h.grid().ListIndex(), 0);
+    EXPECT_EQ(h.grid().Properties().Item(2).value(), "a");
+}
+
+TEST(GridSettings, RangesRaiseInvalidPropertyValue) {
+    GridHarness h;
+    std::string source;
+    EXPECT_EQ(ErrorNumber([&] { h.grid().SetLineStyle(6); }, &source), 380);
+    EXPECT_EQ(source, "PropertyList.LineStyle");
+    EXPECT_EQ(ErrorNumber([&] { h.grid().SetStyle(2); }, &source), 380);
+    EXPECT_EQ(source, "");
+    EXPECT_EQ(ErrorNumber([&] { h.grid().SetBorderStyle(-1); }), 380);
+    EXPECT_EQ(ErrorNumber([&] { h.grid().SetLongestItem(5); }, &source), 380);
+    EXPECT_EQ(source, "PropertyList.LongestItem");
+    EXPECT_EQ(h.grid().LineStyle(), 0);
+}
+
+TEST(GridSettings, DividerFollowsItsPlacementAndDragsWithinLimits) {
+    GridHarness h;
+    h.grid().SetDividerPlacement(2);
+    h.grid().Properties().Add("A fairly long caption", ExPropText, "");
+    EXPECT_EQ(h.grid().LongestItem(), 100);
+    h.grid().SetDividerPlacement(0);
+    h.grid().SetDividerLeft(100);
+    const int longest = h.grid().LongestItem();
+    EXPECT_GT(longest, 5);
+    EXPECT_NE(longest, 100);
+    EXPECT_EQ(h.grid().DividerLeft(), longest);  // reading it moved the divider
+    h.grid().SetDividerPlacement(1);
+    EXPECT_EQ(h.grid().LongestItem(), h.grid().width() / 2);
+
+    h.grid().SetDividerPlacement(3);
+    h.grid().SetDividerLeft(120);
+    const int y = h.Cell(0, false).y();
+    QTest::mouseMove(h.List(), QPoint(118, y));
+    QTest::mousePress(h.List(), Qt::LeftButton, {}, QPoint(118, y));
+    QTest::mouseMove(h.List(), QPoint(80, y));
+    EXPECT_EQ(h.grid().DividerLeft(), 80);
+    QTest::mouseMove(h.List(), QPoint(49, y));
+    EXPECT_EQ(h.grid().DividerLeft(), 80);
+    QTest::mouseMove(h.List(), QPoint(h.grid().width() - 49, y));
+    EXPECT_EQ(h.grid().DividerLeft(), 80);
+    QTest::mouseMove(h.List(), QPoint(h.grid().width() - 50, y));
+    EXPECT_EQ(h.grid().DividerLeft(), h.grid().width() - 50);
+    QTest::mouseRelease(h.List(), Qt::LeftButton, {}, QPoint(h.grid().width() - 50, y));
+    QTest::mouseMove(h.List(), QPoint(60, y));
+    EXPECT_EQ(h.grid().DividerLeft(), h.grid().width() - 50);
+}
+
+TEST(GridSettings, WrittenWithoutDefaultsAndReadBack) {
+    GridHarness h;
+    h.grid().SetAllowEdit(false);
+    h.grid().SetLineStyle(2);
+    h.grid().SetTextTrue("Yes");
+    h.grid().SetBackColor(0x00FFFF);
+    MemoryPropertyBag bag;
+    h.grid().WriteProperties(bag);
+    EXPECT_EQ(bag.Values().count("HideSelection"), 0u);
+    EXPECT_EQ(bag.ReadProperty("AllowEdit"), "False");
+    EXPECT_EQ(bag.ReadProperty("BackColorValue"), "65535");
+
+    PropertyList other;
+    other.ReadProperties(bag);
+    EXPECT_FALSE(other.AllowEdit());
+    EXPECT_EQ(other.LineStyle(), 2);
+    EXPECT_EQ(other.TextTrue(), "Yes");
+    EXPECT_EQ(other.BackColorValue(), 0x00FFFFu);
+    EXPECT_TRUE(other.HideSelection());
+}
+
+TEST(GridSettings, AllowEditFalseAndReadOnlyRowsKeepEditorsHidden) {
+    GridHarness h;
+    Property& row = h.grid().Properties().Add("A", ExPropText, "");
+    h.Select(0);
+    EXPECT_TRUE(h.Edit()->isVisible());
+    row.SetReadOnly(true);
+    EXPECT_FALSE(h.Edit()->isVisible());
+    row.SetReadOnly(false);
+    EXPECT_TRUE(h.Edit()->isVisible());
+    h.grid().SetAllowEdit(false);
+    EXPECT_FALSE(h.Edit()->isVisible());
+    h.Select(0);
+    EXPECT_FALSE(h.Edit()->isVisible());
+}
+
+}  // namespace
+}  // namespace flowloom::grid::testing

@@ -1,0 +1,133 @@
+// Painting of rows, checked by their pixels, and a picture of the example
+// grid for a person to look at.
+#include "GridTestSupport.h"
+
+#include "DemoGrid.h"
+#include "grid/widget/GridColors.h"
+#include "grid/widget/RowPainter.h"
+
+#include <QFileInfo>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+namespace flowloom::grid::testing {
+namespace {
+
+constexpr int kWidth = 300;
+constexpr int kDivider = 100;
+
+class RowPicture {
+public:
+    explicit RowPicture(Property& row, RowPaintSettings settings = {}) : image_(kWidth, 24, QImage::Format_RGB32) {
+        image_.fill(Qt::magenta);
+        settings.dividerX = settings.dividerX == 100 ? kDivider : settings.dividerX;
+        QPainter painter(&image_);
+        PaintRow(painter, row, QRect(0, 0, kWidth, RowHeight(row, settings.style)), settings);
+    }
+    QColor At(int x, int y) const { return image_.pixelColor(x, y); }
+    const QImage& Image() const { return image_; }
+    // Leftmost x in [from, to) whose pixel differs from the one at from.
+    int FirstInk(int from, int to, int y) const {
+        for (int x = from; x < to; ++x)
+            if (At(x, y) != At(from, y)) return x;
+        return -1;
+    }
+    int FirstInkAnyRow(int from, int to) const {
+        int best = -1;
+        for (int y = 2; y < RowHeightOf() - 2; ++y) {
+            const int x = FirstInk(from, to, y);
+            if (x >= 0 && (best < 0 || x < best)) best = x;
+        }
+        return best;
+    }
+    int RowHeightOf() const { return 16; }
+
+private:
+    QImage image_;
+};
+
+TEST(GridPainting, SwatchesShowTheValueColour) {
+    Properties rows;
+    Property& color = rows.Add("Colour", ExPropColor, "255");
+    Property& html = rows.Add("Web", ExPropHtmlColor, "00FF00");
+    const int swatchCentre = kDivider + 2 + 6;
+    EXPECT_EQ(RowPicture(color).At(swatchCentre, 7), QColor(255, 0, 0));
+    EXPECT_EQ(RowPicture(html).At(swatchCentre, 7), QColor(0, 255, 0));
+    html.SetValue("abc");
+    EXPECT_EQ(RowPicture(html).At(swatchCentre, 7), QColor(0, 0, 0));
+}
+
+TEST(GridPainting, PasswordRowsShowOneMaskPerCharacter) {
+    Properties rows;
+    Property& secret = rows.Add("Secret", ExPropText, "abc");
+    secret.SetPasswordChar("*");
+    Property& stars = rows.Add("Secret", ExPropText, "***");
+    EXPECT_EQ(RowPicture(secret).Image(), RowPicture(stars).Image());
+}
+
+TEST(GridPainting, HighlightAndValueColumnColours) {
+    Properties rows;
+    Property& row = rows.Add("Name", ExPropText, "", 0xEEEEEE);
+    RowPaintSettings settings;
+    settings.highlighted = true;
+    row.SetHighlightColor(0x0000FF);
+    EXPECT_EQ(RowPicture(row, settings).At(kDivider - 3, 2), QColor(255, 0, 0));
+    EXPECT_TRUE(row.Active());
+    EXPECT_EQ(RowPicture(row).At(kDivider - 3, 2), QColor(0xEE, 0xEE, 0xEE));
+    EXPECT_FALSE(row.Active());
+    EXPECT_EQ(RowPicture(row).At(kWidth - 5, 2), QColor(0xEE, 0xEE, 0xEE));  // value column follows the row
+    settings.highlighted = false;
+    settings.backColorValue = 0x00FFFF;
+    EXPECT_EQ(RowPicture(row, settings).At(kWidth - 5, 2), QColor(255, 255, 0));
+}
+
+TEST(GridPainting, HeadersSpanTheRowAndShowTheirState) {
+    Properties rows;
+    Property& header = rows.Add("Section", ExPropHeader, "", 0x808080);
+    RowPaintSettings settings;
+    EXPECT_EQ(RowPicture(header, settings).At(kDivider + 20, 2), QColor(0x80, 0x80, 0x80));
+
+    settings.expandableHeaders = true;
+    settings.foreColor = 0x000000;
+    const int indent = IndentWidth(settings.controlFont);
+    const int box = indent % 2 == 1 ? indent - 5 : indent - 6;
+    const int height = RowHeight(header, 0);
+    const int boxTop = (height - (indent - 2)) / 2;
+    const QPoint verticalStroke(2 + box / 2, boxTop + 2);
+    EXPECT_NE(RowPicture(header, settings).At(verticalStroke.x(), verticalStroke.y()), QColor(0, 0, 0));
+    header.SetExpanded(false);
+    EXPECT_EQ(RowPicture(header, settings).At(verticalStroke.x(), verticalStroke.y()), QColor(0, 0, 0));
+}
+
+TEST(GridPainting, PictureColumnKeepsCaptionsInLine) {
+    Properties rows;
+    Property& row = rows.Add("Caption", ExPropText, "", 0xFFFFFF, 0x000000);
+    RowPaintSettings plain;
+    RowPaintSettings pictures;
+    pictures.style = 1;
+    const int without = RowPicture(row, plain).FirstInkAnyRow(1, kDivider - 1);
+    const int with = RowPicture(row, pictures).FirstInkAnyRow(1, kDivider - 1);
+    ASSERT_GT(without, 0);
+    EXPECT_EQ(with - without, 18);
+}
+
+TEST(GridPainting, TheExampleGridAsAPicture) {
+    GridHarness h;
+    h.grid().SetCallbackSink(nullptr);
+    demo::LoggingSink sink([](const std::string&) {});
+    h.grid().SetCallbackSink(&sink);
+    demo::FillDemoGrid(h.grid());
+    h.grid().SetListIndex(7);  // a list row, so that its drop arrow shows
+    h.grid().window()->resize(460, 420);
+    QApplication::processEvents();
+    const QImage picture = h.grid().grab().toImage();
+    ASSERT_FALSE(picture.isNull());
+    const QString path = QString(GRID_SCREENSHOT_DIR) + "/grid-demo.png";
+    ASSERT_TRUE(picture.save(path));
+    EXPECT_TRUE(QFileInfo::exists(path));
+    h.grid().SetCallbackSink(nullptr);
+}
+
+}  // namespace
+}  // namespace flowloom::grid::testing
