@@ -46,7 +46,10 @@ PropertyList::PropertyList(QWidget* parent)
 }
 
 PropertyList::~PropertyList() {
+    // The parts go after the rows: nothing may call back into a half-gone control.
     disconnect(qApp, nullptr, this, nullptr);
+    drop_->disconnect(this);
+    memo_->disconnect(this);
     sink_ = nullptr;
 }
 

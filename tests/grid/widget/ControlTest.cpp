@@ -7,16 +7,6 @@
 namespace flowloom::grid::testing {
 namespace {
 
-std::int32_t ErrorNumber(const std::function<void()>& call, std::string* source = nullptr) {
-    try {
-        call();
-    } catch (const VbError& error) {
-        if (source) *source = error.Source();
-        return error.Number();
-    }
-    return 0;
-}
-
 int VisibleRows(GridHarness& h) {
     int rows = 0;
     for (int y = 0; y < h.List()->height(); ++y) {

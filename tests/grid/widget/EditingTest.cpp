@@ -23,16 +23,6 @@ public:
     std::optional<std::string> BrowseFolder(const std::string&, const std::string&) override { return folder; }
 };
 
-std::int32_t ErrorNumber(const std::function<void()>& call, std::string* source = nullptr) {
-    try {
-        call();
-    } catch (const VbError& error) {
-        if (source) *source = error.Source();
-        return error.Number();
-    }
-    return 0;
-}
-
 TEST(GridEditing, ClickEditEnterStoresTheValueUnlessCancelled) {
     GridHarness h;
     h.grid().Properties().Add("Name", ExPropText, "old");

@@ -6,6 +6,16 @@
 
 namespace flowloom::grid::testing {
 
+std::int32_t ErrorNumber(const std::function<void()>& call, std::string* source) {
+    try {
+        call();
+    } catch (const VbError& error) {
+        if (source) *source = error.Source();
+        return error.Number();
+    }
+    return 0;
+}
+
 bool RecordingSink::Logged(const std::string& entry) const { return std::find(log.begin(), log.end(), entry) != log.end(); }
 
 std::size_t RecordingSink::Count(const std::string& prefix) const {

@@ -56,6 +56,9 @@ public:
     std::size_t Count(const std::string& prefix) const;
 };
 
+// The number of the error a call raises (0 for none), and its source.
+std::int32_t ErrorNumber(const std::function<void()>& call, std::string* source = nullptr);
+
 // A shown, active window holding one grid, with ways to reach its parts.
 class GridHarness {
 public:

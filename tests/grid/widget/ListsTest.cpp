@@ -188,5 +188,15 @@ TEST(GridMemo, APressOutsideCommits) {
     EXPECT_EQ(row.value(), "text\r\n");
 }
 
+TEST(GridDropList, AControlDestroyedWithItsListOpenLeavesNothingBehind) {
+    auto h = std::make_unique<GridHarness>();
+    Property& row = h->grid().Properties().Add("Kind", ExPropCustomList, "");
+    row.SetListItems(std::vector<std::string>{"One"});
+    h->Select(0);
+    h->ClickButton();
+    ASSERT_TRUE(h->DropList()->isVisible());
+    h.reset();  // the sanitizers watch for use after free
+}
+
 }  // namespace
 }  // namespace flowloom::grid::testing
