@@ -2,6 +2,7 @@
 
 #include "app/ReportError.h"
 
+#include <cctype>
 #include <cstring>
 
 namespace flowloom {
@@ -13,6 +14,16 @@ std::shared_ptr<DictionaryCollection> AttributesOf(const pugi::xml_node& element
     for (const pugi::xml_attribute& a : element.attributes())
         attributes->Add(std::make_shared<CDictionary>(CDictionary{a.name(), std::string(a.value())}), a.name());
     return attributes;
+}
+
+// The element's name without a namespace prefix, unless what follows the
+// prefix could not start a name of its own (it is written back as a name).
+std::string BaseName(const char* name) {
+    const char* colon = std::strchr(name, ':');
+    if (!colon) return name;
+    const unsigned char first = static_cast<unsigned char>(colon[1]);
+    const bool startsName = std::isalpha(first) || first == '_' || first >= 0x80;
+    return startsName ? std::string(colon + 1) : std::string(name);
 }
 
 }  // namespace
@@ -39,8 +50,7 @@ void Options::LoadElement(const pugi::xml_node& node) {
         if (child.type() != pugi::node_element) continue;
         try {
             auto item = std::make_shared<OptionItem>();
-            const char* colon = std::strchr(child.name(), ':');
-            item->name = colon ? colon + 1 : child.name();  // the base name, without a prefix
+            item->name = BaseName(child.name());
             item->LoadElement(child);
             Add(item, item->name);
         } catch (...) {
