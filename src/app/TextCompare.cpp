@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
+#include <tuple>
 #include <vector>
 
 namespace flowloom {
@@ -172,6 +173,19 @@ std::pair<std::size_t, std::size_t> FindNoCaseSpan(std::string_view haystack, st
 
 std::size_t FindNoCase(std::string_view haystack, std::string_view needle, std::size_t from) {
     return FindNoCaseSpan(haystack, needle, from).first;
+}
+
+std::string ReplaceNoCase(std::string_view text, std::string_view find, std::string_view with) {
+    if (find.empty()) return std::string(text);
+    std::string out;
+    std::size_t from = 0;
+    for (auto [at, length] = FindNoCaseSpan(text, find); at != std::string_view::npos;
+         std::tie(at, length) = FindNoCaseSpan(text, find, from)) {
+        out.append(text.substr(from, at - from)).append(with);
+        from = at + std::max<std::size_t>(length, 1);
+    }
+    out.append(text.substr(std::min(from, text.size())));
+    return out;
 }
 
 }  // namespace flowloom

@@ -25,5 +25,7 @@ std::size_t FindNoCase(std::string_view haystack, std::string_view needle, std::
 // may change the length of a code point, as "ß" against "SS").
 std::pair<std::size_t, std::size_t> FindNoCaseSpan(std::string_view haystack, std::string_view needle,
                                                    std::size_t from = 0);
+// Replaces every occurrence of `find` (not empty), compared without regard to case.
+std::string ReplaceNoCase(std::string_view text, std::string_view find, std::string_view with);
 
 }  // namespace flowloom
