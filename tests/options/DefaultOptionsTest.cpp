@@ -1,0 +1,140 @@
+// The default options document, kind digits, placeholders, and options as a
+// processes file holds them.
+#include "options/DefaultOptions.h"
+#include "options/OptionKinds.h"
+#include "options/OptionPlaceholders.h"
+
+#include "model/ModelFixture.h"
+
+#include <gmock/gmock.h>
+
+namespace flowloom::test {
+namespace {
+
+using ::testing::ElementsAre;
+
+std::vector<std::string> AttributeNames(const OptionItem& item) {
+    std::vector<std::string> names;
+    for (const auto& attribute : *item.Attributes) names.push_back(attribute->name);
+    return names;
+}
+
+std::string Detail(const Options& options, const char* group, const char* attribute, const char* detail) {
+    const auto details = options.Find(group)->Properties->Find(attribute);
+    if (!details) return "<none>";
+    const auto entry = details->Find(detail);
+    return entry ? entry->value.Text() : "<none>";
+}
+
+TEST(DefaultOptions, GroupsValuesAndKindsInOrder) {
+    const auto options = LoadDefaultOptions();
+    std::vector<std::string> groups;
+    for (const auto& item : *options) groups.push_back(item->name);
+    EXPECT_THAT(groups, ElementsAre("Email", "FileLocations", "Contact", "ConvertingPostscriptToPDF"));
+    EXPECT_THAT(AttributeNames(*options->Find("Email")),
+                ElementsAre("DefaultEmailTemplateHTML", "DefaultEmailTemplatePlainText", "DefaultStyle"));
+    EXPECT_THAT(AttributeNames(*options->Find("FileLocations")),
+                ElementsAre("TemplateFolder", "DocumentFolder", "Patternloom", "Flowloom", "HTMLEditor", "Labels",
+                            "Envelope"));
+    EXPECT_THAT(AttributeNames(*options->Find("Contact")),
+                ElementsAre("SupportContactName", "SupportContactEmail", "SupportContactPhone", "UserContactName",
+                            "UserContactEmail", "UserContactPhone"));
+    EXPECT_THAT(AttributeNames(*options->Find("ConvertingPostscriptToPDF")),
+                ElementsAre("PostscriptPrinter", "GhostscriptExecutableFile", "GhostscriptCommandLine"));
+    EXPECT_EQ(OptionValue(options.get(), "Email", "DefaultStyle"), "5");
+    EXPECT_EQ(OptionValue(options.get(), "Email", "DefaultEmailTemplateHTML"), "8");
+    EXPECT_EQ(OptionValue(options.get(), "FileLocations", "TemplateFolder"), "7");
+    EXPECT_EQ(OptionValue(options.get(), "FileLocations", "Labels"), "6");
+    EXPECT_EQ(OptionValue(options.get(), "Contact", "UserContactPhone"), "0");
+    EXPECT_EQ(OptionValue(options.get(), "ConvertingPostscriptToPDF", "PostscriptPrinter"), "5");
+}
+
+TEST(DefaultOptions, DetailsOfTheValues) {
+    const auto options = LoadDefaultOptions();
+    EXPECT_EQ(Detail(*options, "Email", "DefaultStyle", "List"), "HTML;Plain text");
+    EXPECT_EQ(Detail(*options, "Email", "DefaultStyle", "Default"), "HTML");
+    EXPECT_EQ(Detail(*options, "Email", "DefaultEmailTemplateHTML", "Default"), "<none>");
+    EXPECT_EQ(Detail(*options, "FileLocations", "TemplateFolder", "Default"), "{Templates}");
+    EXPECT_EQ(Detail(*options, "FileLocations", "DocumentFolder", "Default"), "{Documents}");
+    EXPECT_EQ(Detail(*options, "FileLocations", "HTMLEditor", "Default"), "{Tools}\\markuploom.exe");
+    EXPECT_EQ(Detail(*options, "FileLocations", "Patternloom", "FileFilter"),
+              "Exe files (*.exe){0}*.exe{0}All Files (*.*){0}*.*{0}");
+    EXPECT_EQ(Detail(*options, "FileLocations", "Envelope", "Default"), "{Templates}\\envelope.dot");
+    EXPECT_EQ(Detail(*options, "FileLocations", "Labels", "FileFilter"),
+              "Word template files (*.dot){0}*.dot{0}All Files (*.*){0}*.*{0}");
+    EXPECT_EQ(Detail(*options, "Contact", "SupportContactEmail", "Default"), kSupportEmail);
+    EXPECT_EQ(options->Find("ConvertingPostscriptToPDF")->Properties->Find("PostscriptPrinter")->Count(), 0);
+    EXPECT_EQ(Detail(*options, "ConvertingPostscriptToPDF", "GhostscriptCommandLine", "Default"),
+              "-sDEVICE=pdfwrite -q -dPDFSETTINGS=/prepress -dCompatibilityLevel=1.3 -dNOPAUSE -dBATCH "
+              "-sOutputFile={OutputPdfFile} -c save pop -f {InputPostscriptFile}");
+    EXPECT_THAT(std::string(DefaultOptionsXml()), ::testing::StartsWith("<?xml version=\"1.0\""));
+}
+
+TEST(OptionKinds, DigitsGiveRowTypesAndLocking) {
+    using namespace grid;
+    EXPECT_EQ(KindOfDigit("0"), (OptionKind{ExPropText, false}));
+    EXPECT_EQ(KindOfDigit("1"), (OptionKind{ExPropBoolean, true}));
+    EXPECT_EQ(KindOfDigit("2"), (OptionKind{ExPropNumber, false}));
+    EXPECT_EQ(KindOfDigit("3"), (OptionKind{ExPropMemo, false}));
+    EXPECT_EQ(KindOfDigit("4"), (OptionKind{ExPropCustomList, false}));
+    EXPECT_EQ(KindOfDigit("5"), (OptionKind{ExPropCustomList, true}));
+    EXPECT_EQ(KindOfDigit("6"), (OptionKind{ExPropFile, false}));
+    EXPECT_EQ(KindOfDigit("7"), (OptionKind{ExPropFolder, false}));
+    EXPECT_EQ(KindOfDigit("8"), (OptionKind{ExPropBrowse, true}));
+    for (const char* other : {"9", "-1", "", "abc", "1e9"}) EXPECT_EQ(KindOfDigit(other), OptionKind{}) << other;
+}
+
+class OptionPlaceholders : public ModelFixture {};
+
+TEST_F(OptionPlaceholders, WithADatabaseTheFoldersFollowItsLocation) {
+    const auto processes = LoadText(Document(R"(<Databases><Database Name="A" Location="C:\Data\sales.mdb"/>)"
+                                             R"(<Database Name="B" Location="D:\Other\b.mdb"/></Databases>)"));
+    EXPECT_EQ(DatabaseFolder(*processes), "C:\\Data\\");
+    EXPECT_EQ(ReplaceOptionPlaceholders("{DatabaseFolder}x", *processes), "C:\\Data\\x");
+    EXPECT_EQ(ReplaceOptionPlaceholders("{templates}\\labels.dot", *processes), "C:\\Data\\templates\\labels.dot");
+    EXPECT_EQ(ReplaceOptionPlaceholders("{Documents}", *processes), "C:\\Data\\documents");
+    EXPECT_EQ(ReplaceOptionPlaceholders("{Tools}\\flowloom.exe|{TOOLS}", *processes),
+              "C:\\Data\\tools\\flowloom.exe|C:\\Data\\tools");
+    // The run-time's own placeholders stay.
+    EXPECT_EQ(ReplaceOptionPlaceholders("-sOutputFile={OutputPdfFile} {InputPostscriptFile}", *processes),
+              "-sOutputFile={OutputPdfFile} {InputPostscriptFile}");
+}
+
+TEST_F(OptionPlaceholders, FileLocationsWinOverTheDatabaseFolder) {
+    const auto processes = LoadText(Document(
+        R"(<Databases><Database Name="A" Location="/srv/data/sales.mdb"/></Databases>)"
+        R"(<Options><FileLocations TemplateFolder="/srv/tpl" DocumentFolder=""/></Options>)"));
+    EXPECT_EQ(ReplaceOptionPlaceholders("{Templates}/a.dot", *processes), "/srv/tpl/a.dot");
+    EXPECT_EQ(ReplaceOptionPlaceholders("{Documents}", *processes), "/srv/data/documents");
+}
+
+TEST_F(OptionPlaceholders, WithoutADatabaseTheyAreEmpty) {
+    const auto processes = LoadText(Document(""));
+    EXPECT_EQ(DatabaseFolder(*processes), "");
+    EXPECT_EQ(ReplaceOptionPlaceholders("{Templates}\\labels.dot", *processes), "\\labels.dot");
+    EXPECT_EQ(ReplaceOptionPlaceholders("{Tools}{Documents}{DatabaseFolder}", *processes), "");
+}
+
+TEST_F(OptionPlaceholders, AFileWithoutOptionsHasNoValues) {
+    const auto processes = LoadText(Document(R"(<Process Name="P"/>)"));
+    ASSERT_NE(processes->Options(), nullptr);
+    EXPECT_EQ(processes->Options()->Count(), 0);
+    EXPECT_EQ(OptionValue(processes->Options().get(), "ConvertingPostscriptToPDF", "PostscriptPrinter"), "");
+    EXPECT_EQ(OptionValue(nullptr, "Email", "DefaultStyle"), "");
+    EXPECT_THAT(processes->XML(), ::testing::Not(::testing::HasSubstr("<Options")));
+}
+
+TEST_F(OptionPlaceholders, GroupsUnknownToTheDefaultsSurviveASave) {
+    const std::string text = Document(R"(<Process Name="P"/><Options><Email DefaultStyle="Plain text"/>)"
+                                      R"(<Extra Colour="blue" Size="3"><Colour List="red;blue"/></Extra></Options>)");
+    const auto processes = LoadText(text);
+    EXPECT_EQ(OptionValue(processes->Options().get(), "extra", "colour"), "blue");
+    const auto saved = folder / "saved.xml";
+    ASSERT_TRUE(processes->Save(saved.string()));
+    const auto reloaded = LoadText(ReadAll(saved), "reloaded.xml");
+    EXPECT_EQ(OptionValue(reloaded->Options().get(), "Extra", "Size"), "3");
+    EXPECT_THAT(ReadAll(saved), ::testing::HasSubstr(R"(<Extra Colour="blue" Size="3"/>)"));
+}
+
+}  // namespace
+}  // namespace flowloom::test
