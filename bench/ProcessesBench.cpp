@@ -3,6 +3,8 @@
 #include "SyntheticFile.h"
 
 #include "app/TextCompare.h"
+#include "codegen/CCodeGenerator.h"
+#include "verify/ProcessVerifier.h"
 #include "model/Processes.h"
 #include "model/xml/XmlDocument.h"
 #include "support/Prompts.h"
@@ -109,12 +111,39 @@ int main(int argc, char** argv) {
         if (!same) std::puts("unexpected change");
     });
 
+    // Verification and code generation of every process, as the menu
+    // commands do them one process at a time.
+    const auto all = processes->Snapshot();
+    std::size_t findings = 0;
+    const double verify = MedianMs(repetitions, [&] {
+        findings = 0;
+        for (const auto& process : all) {
+            flowloom::ProcessVerifier verifier(true);
+            verifier.Run(process);
+            findings += verifier.Findings().size();
+        }
+    });
+    std::size_t macroBytes = 0;
+    const double codegen = MedianMs(repetitions, [&] {
+        macroBytes = 0;
+        for (const auto& process : all) {
+            flowloom::CCodeGenerator generator;
+            generator.SetProcesses(processes);
+            macroBytes += generator.GenerateCode(process, {}).size();
+        }
+    });
+    const double perProcess = 1000.0 / static_cast<double>(std::max<std::size_t>(all.size(), 1));
+
     std::printf("file size            %.1f MB (%d processes)\n", text.size() / 1e6, processes->Count());
     std::printf("pugixml parse        %8.1f ms\n", parse);
     std::printf("Processes.Load       %8.1f ms   load/parse      %.2f (target <= 2.5)\n", load, load / parse);
     std::printf("pugixml serialise    %8.1f ms\n", serialise);
     std::printf("Processes.XML        %8.1f ms   XML/serialise   %.2f (target <= 2.5)\n", generate, generate / serialise);
     std::printf("unsaved-change check %8.1f ms\n", unsavedCheck);
+    std::printf("verify every process %8.1f ms   %.1f us per process (%zu findings)\n", verify, verify * perProcess,
+                findings);
+    std::printf("codegen every process%8.1f ms   %.1f us per process (%.1f MB of macros)\n", codegen,
+                codegen * perProcess, macroBytes / 1e6);
     std::printf("peak memory          %.1f MB      peak/file size  %.2f (target <= 6)\n", peakKb / 1024.0,
                 peakKb * 1024.0 / text.size());
     std::printf("  (open and one change check in a fresh process; %.1f MB of it before loading)\n", baseKb / 1024.0);

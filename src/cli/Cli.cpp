@@ -1,6 +1,7 @@
 #include "Cli.h"
 
-#include "CliPrompts.h"
+#include "CliContext.h"
+#include "app/TextCompare.h"
 #include "model/Process.h"
 #include "model/Processes.h"
 #include "support/AppPaths.h"
@@ -13,10 +14,6 @@ namespace flowloom::cli {
 
 namespace {
 
-constexpr int kOk = 0;
-constexpr int kProblem = 1;
-constexpr int kUsage = 2;
-
 const char* const kHelp =
     "usage: flowloom-cli COMMAND [ARGUMENTS]\n"
     "\n"
@@ -24,6 +21,13 @@ const char* const kHelp =
     "  list FILE                 load FILE and print the name of each process\n"
     "  xml FILE                  load FILE and write the processes file as it would be saved\n"
     "  save FILE OUT             load FILE and save it as OUT (with a backup of an existing OUT)\n"
+    "  verify FILE PROCESS       verify the process named PROCESS (case does not matter) and\n"
+    "                            print the report, or \"Everything is Ok\"\n"
+    "  verify-all FILE           verify every process; each report under \"== NAME\"\n"
+    "  codegen FILE PROCESS [--mode classes|xml]\n"
+    "                            print the macro that runs PROCESS: \"classes\" (the default)\n"
+    "                            rebuilds the process object by object, \"xml\" loads it by\n"
+    "                            name from FILE at run time\n"
     "  parse-command-line TEXT   parse TEXT as the designer's command line and print\n"
     "                            xmlfile, process, activeobject and fields, one per line\n"
     "  --help                    show this text\n"
@@ -31,19 +35,14 @@ const char* const kHelp =
     "\n"
     "Loading works as the designer's Open: a file of an older format version is\n"
     "converted and written back at once. Message boxes go to stderr as\n"
-    "'message: TEXT', reported errors as 'error NUMBER: DESCRIPTION'.\n"
-    "Exit codes: 0 success, 1 the command ran and found a problem, 2 bad\n"
-    "arguments or a file that could not be read.\n";
+    "'message: TEXT', reported errors as 'error NUMBER: DESCRIPTION'. Reports and\n"
+    "macros are written as the text window would show them, with CR LF line ends.\n"
+    "Exit codes: 0 success (verify: nothing found), 1 the command ran and found a\n"
+    "problem (verify: findings), 2 bad arguments, an unknown process or a file\n"
+    "that could not be read.\n";
 
-struct Context {
-    const std::vector<std::string>& args;
-    std::ostream& out;
-    std::ostream& err;
-    CliPrompts& prompts;
-};
+}  // namespace
 
-// Loads FILE as the designer's Open does; nullptr (with the reason on
-// stderr) when it could not be read.
 std::shared_ptr<Processes> LoadFile(Context& ctx, const std::string& file, int& status) {
     auto processes = Processes::Create();
     const int errorsBefore = ctx.prompts.ErrorCount();
@@ -62,11 +61,20 @@ std::shared_ptr<Processes> LoadFile(Context& ctx, const std::string& file, int& 
     return processes;
 }
 
+std::shared_ptr<Process> FindProcess(Context& ctx, const Processes& processes, const std::string& name) {
+    for (const auto& process : processes.Snapshot())
+        if (EqualsNoCase(process->name(), name)) return process;
+    ctx.err << "flowloom-cli: no process named '" << name << "'\n";
+    return nullptr;
+}
+
 bool ExpectArgs(Context& ctx, std::size_t count, const char* usage) {
     if (ctx.args.size() == count + 1) return true;
     ctx.err << "usage: flowloom-cli " << usage << '\n';
     return false;
 }
+
+namespace {
 
 int List(Context& ctx) {
     if (!ExpectArgs(ctx, 1, "list FILE")) return kUsage;
@@ -120,6 +128,9 @@ int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& e
         {"list", List},
         {"xml", Xml},
         {"save", Save},
+        {"verify", VerifyCommand},
+        {"verify-all", VerifyAllCommand},
+        {"codegen", CodegenCommand},
         {"parse-command-line", [](Context& c) { return ParseCommandLineCommand(c.args, c.out, c.err); }},
     };
     auto it = commands.find(args[0]);

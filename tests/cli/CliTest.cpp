@@ -1,10 +1,5 @@
 // flowloom-cli driven through its entry point, on the example and on bad input.
-#include "Cli.h"
-
-#include "testsupport/TempFolder.h"
-#include "support/AppPaths.h"
-
-#include <gtest/gtest.h>
+#include "CliFixture.h"
 
 #include <filesystem>
 #include <sstream>
@@ -14,26 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Cli : public ::testing::Test {
-protected:
-    Cli() { SetProgramFolder(folder.Path()); }
-    ~Cli() override { SetProgramFolder({}); }
-
-    int Run(std::vector<std::string> args) {
-        out.str({});
-        err.str({});
-        return cli::Run(args, out, err);
-    }
-    std::string Example() {
-        const auto path = folder / "letters.xml";
-        fs::copy_file(SourceDir() / "examples/letters.xml", path, fs::copy_options::overwrite_existing);
-        return path.string();
-    }
-
-    TempFolder folder;
-    std::ostringstream out;
-    std::ostringstream err;
-};
+using Cli = CliFixture;
 
 TEST_F(Cli, ListPrintsProcessNamesInFileOrder) {
     EXPECT_EQ(Run({"list", Example()}), 0);
