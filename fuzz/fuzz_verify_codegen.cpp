@@ -1,0 +1,75 @@
+// Loads arbitrary bytes as a processes file, verifies every process in the
+// gathering mode and generates its macro in both modes: neither may crash,
+// leak or hang on any model the reader builds, and every macro keeps its frame.
+#include "codegen/CCodeGenerator.h"
+#include "model/Process.h"
+#include "model/Processes.h"
+#include "support/AppPaths.h"
+#include "support/Printers.h"
+#include "support/Prompts.h"
+#include "verify/ProcessVerifier.h"
+
+#include <unistd.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+std::filesystem::path WorkFolder() {
+    static const std::filesystem::path folder = [] {
+        auto path = std::filesystem::temp_directory_path() / ("flowloom-fuzz-codegen-" + std::to_string(::getpid()));
+        std::filesystem::create_directories(path);
+        flowloom::SetProgramFolder(path);
+        return path;
+    }();
+    return folder;
+}
+
+// One fixed printer, so that runs do not wait on the printing service.
+class FixedPrinters : public flowloom::PrinterSource {
+public:
+    bool Enumerate(std::vector<std::string>& names) override {
+        names = {"Office laser"};
+        return true;
+    }
+};
+
+bool KeepsFrame(const std::string& macro) {
+    const std::string end = "End Sub" + std::string(68, ' ') + "\r\n";
+    return macro.rfind("'This macro code", 0) == 0 && macro.size() >= end.size() &&
+           macro.compare(macro.size() - end.size(), end.size(), end) == 0;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static flowloom::SilentPrompts silent;
+    flowloom::SetCurrentPrompts(&silent);
+    static FixedPrinters printers;
+    flowloom::SetPrinterSource(&printers);
+    const auto file = WorkFolder() / "processes.xml";
+    {
+        std::ofstream out(file, std::ios::binary | std::ios::trunc);
+        out.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
+    }
+    auto processes = flowloom::Processes::Create();
+    processes->Load(file.string());
+    for (const auto& process : processes->Snapshot()) {
+        flowloom::ProcessVerifier verifier(true);
+        verifier.Run(process);
+
+        flowloom::CCodeGenerator classes;
+        classes.SetProcesses(processes);
+        if (!KeepsFrame(classes.GenerateCode(process, {}))) __builtin_trap();
+        flowloom::CCodeGenerator xml;
+        if (!KeepsFrame(xml.GenerateCode(process, file.string()))) __builtin_trap();
+    }
+    processes->Dispose();
+    for (const auto& entry : std::filesystem::directory_iterator(WorkFolder()))
+        if (entry.path().extension() == ".bak") std::filesystem::remove(entry.path());
+    return 0;
+}
