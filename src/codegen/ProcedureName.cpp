@@ -51,9 +51,16 @@ std::size_t DecodeAt(std::string_view text, std::size_t i, std::optional<char32_
         codePoint = lead;
         return 1;
     }
-    if ((lead & 0xE0) == 0xC0) length = 2, value = lead & 0x1F;
-    else if ((lead & 0xF0) == 0xE0) length = 3, value = lead & 0x0F;
-    else if ((lead & 0xF8) == 0xF0) length = 4, value = lead & 0x07;
+    if ((lead & 0xE0) == 0xC0) {
+        length = 2;
+        value = lead & 0x1F;
+    } else if ((lead & 0xF0) == 0xE0) {
+        length = 3;
+        value = lead & 0x0F;
+    } else if ((lead & 0xF8) == 0xF0) {
+        length = 4;
+        value = lead & 0x07;
+    }
     codePoint.reset();
     if (length == 0 || i + length > text.size()) return 1;
     for (std::size_t k = 1; k < length; ++k) {
