@@ -1,33 +1,20 @@
 // Loads arbitrary bytes as a processes file, verifies every process in the
 // gathering mode and generates its macro in both modes: neither may crash,
 // leak or hang on any model the reader builds, and every macro keeps its frame.
+#include "FuzzSupport.h"
+
 #include "codegen/CCodeGenerator.h"
 #include "model/Process.h"
 #include "model/Processes.h"
-#include "support/AppPaths.h"
 #include "support/Printers.h"
 #include "support/Prompts.h"
 #include "verify/ProcessVerifier.h"
 
-#include <unistd.h>
-
 #include <cstdint>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
 namespace {
-
-std::filesystem::path WorkFolder() {
-    static const std::filesystem::path folder = [] {
-        auto path = std::filesystem::temp_directory_path() / ("flowloom-fuzz-codegen-" + std::to_string(::getpid()));
-        std::filesystem::create_directories(path);
-        flowloom::SetProgramFolder(path);
-        return path;
-    }();
-    return folder;
-}
 
 // One fixed printer, so that runs do not wait on the printing service.
 class FixedPrinters : public flowloom::PrinterSource {
@@ -51,11 +38,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     flowloom::SetCurrentPrompts(&silent);
     static FixedPrinters printers;
     flowloom::SetPrinterSource(&printers);
-    const auto file = WorkFolder() / "processes.xml";
-    {
-        std::ofstream out(file, std::ios::binary | std::ios::trunc);
-        out.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
-    }
+    const auto& folder = flowloom::fuzz::WorkFolder("flowloom-fuzz-codegen");
+    const auto file = folder / "processes.xml";
+    flowloom::fuzz::WriteFile(file, {reinterpret_cast<const char*>(data), size});
     auto processes = flowloom::Processes::Create();
     processes->Load(file.string());
     for (const auto& process : processes->Snapshot()) {
@@ -69,7 +54,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!KeepsFrame(xml.GenerateCode(process, file.string()))) __builtin_trap();
     }
     processes->Dispose();
-    for (const auto& entry : std::filesystem::directory_iterator(WorkFolder()))
-        if (entry.path().extension() == ".bak") std::filesystem::remove(entry.path());
+    flowloom::fuzz::RemoveBackups(folder);
     return 0;
 }

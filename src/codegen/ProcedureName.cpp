@@ -1,7 +1,8 @@
 #include "codegen/ProcedureName.h"
 
+#include <utf8proc.h>
+
 #include <array>
-#include <string_view>
 
 namespace flowloom {
 
@@ -41,37 +42,6 @@ constexpr std::array<HighMapping, 27> kHighMappings{{
     {U'\u017E', 0x9E}, {U'\u0178', 0x9F},
 }};
 
-// Length of the UTF-8 sequence at `text[i]` and its code point; a byte that
-// does not start a valid sequence stands alone and has no code point.
-std::size_t DecodeAt(std::string_view text, std::size_t i, std::optional<char32_t>& codePoint) {
-    const auto lead = static_cast<unsigned char>(text[i]);
-    std::size_t length = 0;
-    char32_t value = 0;
-    if (lead < 0x80) {
-        codePoint = lead;
-        return 1;
-    }
-    if ((lead & 0xE0) == 0xC0) {
-        length = 2;
-        value = lead & 0x1F;
-    } else if ((lead & 0xF0) == 0xE0) {
-        length = 3;
-        value = lead & 0x0F;
-    } else if ((lead & 0xF8) == 0xF0) {
-        length = 4;
-        value = lead & 0x07;
-    }
-    codePoint.reset();
-    if (length == 0 || i + length > text.size()) return 1;
-    for (std::size_t k = 1; k < length; ++k) {
-        const auto next = static_cast<unsigned char>(text[i + k]);
-        if ((next & 0xC0) != 0x80) return 1;
-        value = (value << 6) | (next & 0x3F);
-    }
-    codePoint = value;
-    return length;
-}
-
 }  // namespace
 
 std::optional<std::uint8_t> ToCodePage1252(char32_t codePoint) {
@@ -86,10 +56,14 @@ bool IsAlphaNumeric1252(std::uint8_t byte) { return kAlphaNumeric[byte]; }
 std::string ProcedureName(const std::string& processName) {
     std::string result = "Exec_";
     std::size_t characters = result.size();
+    const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(processName.data());
     for (std::size_t i = 0; i < processName.size() && characters < kMaxProcedureName;) {
-        std::optional<char32_t> codePoint;
-        const std::size_t length = DecodeAt(processName, i, codePoint);
-        const auto byte = codePoint ? ToCodePage1252(*codePoint) : std::nullopt;
+        utf8proc_int32_t codePoint = -1;
+        const utf8proc_ssize_t read =
+            utf8proc_iterate(bytes + i, static_cast<utf8proc_ssize_t>(processName.size() - i), &codePoint);
+        // A byte that starts no valid sequence stands alone and is dropped.
+        const std::size_t length = read > 0 ? static_cast<std::size_t>(read) : 1;
+        const auto byte = read > 0 ? ToCodePage1252(static_cast<char32_t>(codePoint)) : std::nullopt;
         if (byte && IsAlphaNumeric1252(*byte)) {
             result.append(processName, i, length);
             ++characters;

@@ -46,25 +46,6 @@ TEST_F(Emitters, SaveAsOfADocumentOfNoKnownApplicationStopsAfterTheFormat) {
                                   "        .FileFormat = 6"}));
 }
 
-TEST_F(Emitters, SaveAsTakesTheArgumentsOfTheApplicationThatMadeTheDocument) {
-    const std::string merge = R"(<MailMerge InvokedApplication="Microsoft Excel" OutputDocumentName="S"/>)";
-    const auto excel = Block("vlkSaveAs1", merge + R"(<SaveAs InputDocumentName="S" Password="p" LockComments="True"/>)",
-                             R"(<Document Name="S"/>)");
-    EXPECT_THAT(excel, ::testing::Contains("        .Password = \"p\""));
-    EXPECT_THAT(excel, Not(::testing::Contains("        .LockComments = True")));
-    // An argument never set gives no line, not an empty one.
-    EXPECT_THAT(excel, Not(::testing::Contains("        .FileFormat = ")));
-}
-
-TEST_F(Emitters, PrintOutOfAnExcelSheetHasItsTwoOwnLinesAndTheFileNameLast) {
-    const std::string merge = R"(<MailMerge InvokedApplication="Microsoft Excel" OutputDocumentName="S"/>)";
-    EXPECT_THAT(Block("vlkPrintOut1",
-                      merge + R"(<PrintOut InputDocumentName="S" FileName="f.xls" Preview="True" Range="2" Copies="3"/>)",
-                      R"(<Document Name="S"/>)"),
-                ElementsAreArray({"        .InputDocumentName = \"S\"", "        .Copies = 3", "        .Preview = True",
-                                  "        .FileName = \"f.xls\""}));
-}
-
 TEST_F(Emitters, ConvertReadsThePrinterAndGhostscriptFromTheOptions) {
     EXPECT_THAT(Block("vlkConvert1", R"(<Convert PDFConvertingMethod="1" PostscriptToPDFConverter="1"/>)"),
                 ElementsAreArray({"        .PDFConvertingMethod = 1",

@@ -10,23 +10,11 @@
 namespace flowloom::test {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::Not;
 
 const std::string kOneTable =
     R"(<Datasources><Datasource Name="T" Type="Table" ObjectName="T"/></Datasources>)";
-
-TEST(Frame, KeepsItsPaddedLinesToTheBlank) {
-    const auto lines = Lines(FrameTemplate());
-    ASSERT_EQ(lines.size(), 9u);
-    std::vector<std::size_t> lengths;
-    for (const auto& line : lines) lengths.push_back(line.size());
-    EXPECT_THAT(lengths, ElementsAre(73, 72, 69, 75, 75, 75, 76, 75, 75));
-    EXPECT_EQ(lines[4].substr(0, 36), "'  3. Past this code into the module");
-    EXPECT_EQ(lines[5], std::string(75, ' '));
-    EXPECT_EQ(lines[6].substr(0, 21), "Sub {ProcedureName}()");
-}
 
 TEST(ProcedureNames, KeepLettersAndDigitsOfTheWindowsCodePage) {
     EXPECT_EQ(ProcedureName("Invoices 2024!"), "Exec_Invoices2024");
@@ -51,18 +39,6 @@ TEST(ProcedureNames, AreCutTo255Characters) {
     for (int i = 0; i < 300; ++i) accented += "é";
     const std::string name = ProcedureName(accented);
     EXPECT_EQ(name.size(), 5u + 250u * 2u);
-}
-
-TEST(CodePage1252, MapsTheCharactersOfItsUpperHalf) {
-    EXPECT_EQ(ToCodePage1252(U'€'), 0x80);
-    EXPECT_EQ(ToCodePage1252(U'Ÿ'), 0x9F);
-    EXPECT_EQ(ToCodePage1252(U'ÿ'), 0xFF);
-    EXPECT_EQ(ToCodePage1252(U'\u0081'), std::nullopt);
-    EXPECT_EQ(ToCodePage1252(U'ł'), std::nullopt);
-    EXPECT_TRUE(IsAlphaNumeric1252(0xC0));
-    EXPECT_FALSE(IsAlphaNumeric1252(0xD7));
-    EXPECT_FALSE(IsAlphaNumeric1252(0x80));
-    EXPECT_FALSE(IsAlphaNumeric1252('_'));
 }
 
 class Modes : public CodegenFixture {};
