@@ -2,11 +2,11 @@
 // parse and serialisation, in one run: median of several repetitions.
 #include "SyntheticFile.h"
 
-#include "app/TextCompare.h"
+#include "support/TextCompare.h"
 #include "codegen/CCodeGenerator.h"
 #include "verify/ProcessVerifier.h"
 #include "model/Processes.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 #include "support/Prompts.h"
 
 #include <sys/resource.h>

@@ -1,7 +1,7 @@
 #include "app/CXmlMessages.h"
 
-#include "app/ReportError.h"
-#include "model/xml/XmlDocument.h"
+#include "support/ReportError.h"
+#include "app/XmlDocument.h"
 #include "support/Prompts.h"
 
 namespace flowloom {

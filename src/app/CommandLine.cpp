@@ -1,9 +1,9 @@
 #include "app/CommandLine.h"
 
 #include "app/Common.h"
-#include "app/ReportError.h"
-#include "app/TextCompare.h"
-#include "app/VbStrings.h"
+#include "support/ReportError.h"
+#include "support/TextCompare.h"
+#include "support/VbStrings.h"
 
 #include <optional>
 

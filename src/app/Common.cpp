@@ -1,8 +1,8 @@
 #include "app/Common.h"
 
-#include "app/TextCompare.h"
-#include "app/VbError.h"
-#include "app/VbStrings.h"
+#include "support/TextCompare.h"
+#include "support/VbError.h"
+#include "support/VbStrings.h"
 #include "support/AppPaths.h"
 #include "support/Prompts.h"
 

@@ -2,8 +2,8 @@
 #include "app/ErrorNumbers.h"
 
 #include "app/Common.h"
-#include "app/VbError.h"
-#include "app/VbStrings.h"
+#include "support/VbError.h"
+#include "support/VbStrings.h"
 #include "support/AppPaths.h"
 
 #include <map>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/TextCompare.h"
-#include "app/VbError.h"
+#include "support/TextCompare.h"
+#include "support/VbError.h"
 
 #include <cstdint>
 #include <memory>

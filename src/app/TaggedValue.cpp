@@ -1,7 +1,7 @@
 #include "app/TaggedValue.h"
 
-#include "app/VbError.h"
-#include "app/VbStrings.h"
+#include "support/VbError.h"
+#include "support/VbStrings.h"
 
 namespace flowloom {
 

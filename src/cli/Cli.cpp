@@ -1,7 +1,7 @@
-#include "Cli.h"
+#include "cli/Cli.h"
 
-#include "CliContext.h"
-#include "app/TextCompare.h"
+#include "cli/CliContext.h"
+#include "support/TextCompare.h"
 #include "model/Process.h"
 #include "model/Processes.h"
 #include "support/AppPaths.h"

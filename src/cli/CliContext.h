@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CliPrompts.h"
+#include "cli/CliPrompts.h"
 
 #include <memory>
 #include <ostream>

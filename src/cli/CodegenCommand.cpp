@@ -1,5 +1,5 @@
 // codegen: the macro the Generate Code commands would show, on stdout.
-#include "CliContext.h"
+#include "cli/CliContext.h"
 
 #include "codegen/CCodeGenerator.h"
 #include "codegen/GenerateCodeCommands.h"

@@ -1,5 +1,5 @@
 // verify and verify-all: the report the Verify command would show, on stdout.
-#include "CliContext.h"
+#include "cli/CliContext.h"
 
 #include "model/Process.h"
 #include "model/Processes.h"

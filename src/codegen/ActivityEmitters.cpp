@@ -1,7 +1,7 @@
 #include "codegen/ActivityEmitters.h"
 
-#include "app/ReportError.h"
-#include "app/VbStrings.h"
+#include "support/ReportError.h"
+#include "support/VbStrings.h"
 #include "model/AddRecord.h"
 #include "model/Convert.h"
 #include "model/FieldValue.h"
@@ -10,7 +10,7 @@
 #include "model/SaveAs.h"
 #include "model/SendFax.h"
 #include "model/SendMail.h"
-#include "options/OptionPlaceholders.h"
+#include "model/OptionPlaceholders.h"
 
 #include <string_view>
 #include <utility>

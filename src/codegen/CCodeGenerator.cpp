@@ -1,9 +1,9 @@
 #include "codegen/CCodeGenerator.h"
 
 #include "app/KeyedCollection.h"
-#include "app/ReportError.h"
-#include "app/TextCompare.h"
-#include "app/VbStrings.h"
+#include "support/ReportError.h"
+#include "support/TextCompare.h"
+#include "support/VbStrings.h"
 #include "codegen/ActivityEmitters.h"
 #include "codegen/ProcedureName.h"
 #include "model/Activities.h"

@@ -1,6 +1,6 @@
 #include "codegen/CodeBuffer.h"
 
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 
 namespace flowloom {
 

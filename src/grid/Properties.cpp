@@ -1,7 +1,7 @@
 #include "grid/Properties.h"
 
-#include "app/TextCompare.h"
-#include "app/VbError.h"
+#include "support/TextCompare.h"
+#include "support/VbError.h"
 #include "grid/PropertyOwner.h"
 
 namespace flowloom::grid {

@@ -1,8 +1,8 @@
 #include "grid/ValueFormat.h"
 
-#include "app/TextCompare.h"
-#include "app/VbError.h"
-#include "app/VbStrings.h"
+#include "support/TextCompare.h"
+#include "support/VbError.h"
+#include "support/VbStrings.h"
 
 #include <algorithm>
 #include <cmath>

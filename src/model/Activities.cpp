@@ -1,7 +1,7 @@
 #include "model/Activities.h"
 
-#include "app/ReportError.h"
-#include "app/TextCompare.h"
+#include "support/ReportError.h"
+#include "support/TextCompare.h"
 #include "model/Process.h"
 
 namespace flowloom {

@@ -1,6 +1,6 @@
 #include "model/Activity.h"
 
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 
 #include <random>
 

@@ -1,7 +1,7 @@
 #include "model/ActivityDocuments.h"
 
 #include "app/ErrorNumbers.h"
-#include "app/TextCompare.h"
+#include "support/TextCompare.h"
 #include "model/Document.h"
 #include "model/Documents.h"
 #include "model/Process.h"

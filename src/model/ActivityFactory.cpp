@@ -1,6 +1,6 @@
 #include "model/Activities.h"
 
-#include "app/TextCompare.h"
+#include "support/TextCompare.h"
 #include "model/AddRecord.h"
 #include "model/Convert.h"
 #include "model/MailMerge.h"

@@ -1,10 +1,10 @@
 #include "model/AddRecord.h"
 
-#include "app/ReportError.h"
-#include "app/VbStrings.h"
+#include "support/ReportError.h"
+#include "support/VbStrings.h"
 #include "model/FieldValue.h"
 #include "model/Process.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
 namespace flowloom {
 

@@ -5,7 +5,7 @@
 #include "model/Documents.h"
 #include "model/Groups.h"
 
-#include "app/ReportError.h"
+#include "support/ReportError.h"
 #include "model/Process.h"
 #include "support/Prompts.h"
 

@@ -1,10 +1,10 @@
 #include "model/Convert.h"
 
 #include "app/ErrorNumbers.h"
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 #include "model/ActivityDocuments.h"
 #include "model/Process.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
 #include <filesystem>
 

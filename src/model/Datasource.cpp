@@ -1,9 +1,9 @@
 #include "model/Datasource.h"
 
-#include "app/ReportError.h"
-#include "app/TextCompare.h"
+#include "support/ReportError.h"
+#include "support/TextCompare.h"
 #include "model/Process.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
 namespace flowloom {
 

@@ -2,7 +2,7 @@
 
 #include "model/ActivityDocuments.h"
 #include "model/Document.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
 namespace flowloom {
 

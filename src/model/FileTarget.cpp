@@ -1,6 +1,6 @@
 #include "model/FileTarget.h"
 
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 
 namespace flowloom {
 

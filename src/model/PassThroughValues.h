@@ -45,7 +45,7 @@ int FindArgument(const std::array<const char*, N>& names, std::string_view name)
 
 }  // namespace flowloom
 
-#include "app/TextCompare.h"
+#include "support/TextCompare.h"
 
 template <std::size_t N>
 int flowloom::FindArgument(const std::array<const char*, N>& names, std::string_view name) {

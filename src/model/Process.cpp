@@ -1,15 +1,15 @@
 #include "model/Process.h"
 
-#include "app/ReportError.h"
-#include "app/TextCompare.h"
-#include "app/VbStrings.h"
+#include "support/ReportError.h"
+#include "support/TextCompare.h"
+#include "support/VbStrings.h"
 #include "model/Activities.h"
 #include "model/Datasources.h"
 #include "model/Documents.h"
 #include "model/FieldValue.h"
 #include "model/Groups.h"
 #include "model/Processes.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
 namespace flowloom {
 

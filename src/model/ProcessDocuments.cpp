@@ -1,7 +1,7 @@
 // How a process finds the activity that produces a document.
 #include "model/Process.h"
 
-#include "app/TextCompare.h"
+#include "support/TextCompare.h"
 #include "model/Activities.h"
 #include "model/Documents.h"
 #include "model/MailMerge.h"

@@ -1,9 +1,9 @@
 #include "model/Processes.h"
 
 #include "app/ErrorNumbers.h"
-#include "app/ReportError.h"
-#include "app/TextCompare.h"
-#include "app/VbStrings.h"
+#include "support/ReportError.h"
+#include "support/TextCompare.h"
+#include "support/VbStrings.h"
 #include "model/Databases.h"
 #include "model/Groups.h"
 #include "model/Process.h"

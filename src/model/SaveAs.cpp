@@ -2,7 +2,7 @@
 
 #include "app/ErrorNumbers.h"
 #include "model/Process.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
 namespace flowloom {
 

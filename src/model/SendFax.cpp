@@ -3,7 +3,7 @@
 #include "app/ErrorNumbers.h"
 #include "model/ActivityDocuments.h"
 #include "model/Document.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
 namespace flowloom {
 

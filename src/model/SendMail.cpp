@@ -1,11 +1,11 @@
 #include "model/SendMail.h"
 
-#include "app/ReportError.h"
-#include "app/VbStrings.h"
+#include "support/ReportError.h"
+#include "support/VbStrings.h"
 #include "model/ActivityDocuments.h"
 #include "model/List.h"
 #include "model/Process.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
 namespace flowloom {
 

@@ -4,8 +4,8 @@
 #include "model/Group.h"
 #include "model/List.h"
 
-#include "app/VbStrings.h"
-#include "model/xml/XmlDocument.h"
+#include "support/VbStrings.h"
+#include "app/XmlDocument.h"
 
 namespace flowloom {
 

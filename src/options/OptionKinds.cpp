@@ -1,6 +1,6 @@
 #include "options/OptionKinds.h"
 
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 
 #include <array>
 #include <cmath>
@@ -10,15 +10,15 @@ namespace flowloom {
 namespace {
 
 constexpr std::array<OptionKind, 9> kKinds = {{
-    {grid::ExPropText, false},
-    {grid::ExPropBoolean, true},
-    {grid::ExPropNumber, false},
-    {grid::ExPropMemo, false},
-    {grid::ExPropCustomList, false},
-    {grid::ExPropCustomList, true},
-    {grid::ExPropFile, false},
-    {grid::ExPropFolder, false},
-    {grid::ExPropBrowse, true},
+    {OptionEditor::Text, false},
+    {OptionEditor::YesNo, true},
+    {OptionEditor::Number, false},
+    {OptionEditor::Memo, false},
+    {OptionEditor::List, false},
+    {OptionEditor::List, true},
+    {OptionEditor::File, false},
+    {OptionEditor::Folder, false},
+    {OptionEditor::Tool, true},
 }};
 
 }  // namespace

@@ -1,15 +1,17 @@
 #pragma once
 
-#include "grid/GridTypes.h"
-
 #include <string_view>
 
 namespace flowloom {
 
-// How the options dialog shows a value: the row type and whether typing is
+// How the options dialog edits a value. The dialog maps each editor to a row
+// type of the grid; the options themselves know nothing of the grid.
+enum class OptionEditor { Text, YesNo, Number, Memo, List, File, Folder, Tool };
+
+// How the options dialog shows a value: its editor and whether typing is
 // locked. The default options document gives each value as a digit.
 struct OptionKind {
-    grid::ItemType itemType = grid::ExPropText;
+    OptionEditor editor = OptionEditor::Text;
     bool lockedEdit = false;
 
     bool operator==(const OptionKind&) const = default;

@@ -1,6 +1,6 @@
 #include "options/Options.h"
 
-#include "app/ReportError.h"
+#include "support/ReportError.h"
 
 #include <cctype>
 #include <cstring>

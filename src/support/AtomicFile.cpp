@@ -1,6 +1,6 @@
 #include "support/AtomicFile.h"
 
-#include "app/VbError.h"
+#include "support/VbError.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

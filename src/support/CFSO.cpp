@@ -2,7 +2,7 @@
 // manager are in CFSOOperations.cpp.
 #include "support/CFSO.h"
 
-#include "app/ReportError.h"
+#include "support/ReportError.h"
 #include "support/FileErrors.h"
 #include "support/FileHelpers.h"
 #include "support/PathText.h"

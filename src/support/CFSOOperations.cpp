@@ -2,8 +2,8 @@
 // with the questions and messages that go with them.
 #include "support/CFSO.h"
 
-#include "app/ReportError.h"
-#include "app/VbError.h"
+#include "support/ReportError.h"
+#include "support/VbError.h"
 #include "support/FileErrors.h"
 #include "support/FileHelpers.h"
 #include "support/PathText.h"

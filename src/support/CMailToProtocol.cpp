@@ -1,6 +1,6 @@
 #include "support/CMailToProtocol.h"
 
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 #include "support/Prompts.h"
 
 namespace flowloom {

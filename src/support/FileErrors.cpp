@@ -1,6 +1,6 @@
 #include "support/FileErrors.h"
 
-#include "app/VbError.h"
+#include "support/VbError.h"
 
 #include <cerrno>
 

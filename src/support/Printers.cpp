@@ -1,6 +1,6 @@
 #include "support/Printers.h"
 
-#include "app/TextCompare.h"
+#include "support/TextCompare.h"
 #include "support/AppPaths.h"
 #include "support/Prompts.h"
 

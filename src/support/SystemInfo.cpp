@@ -1,6 +1,6 @@
 #include "support/SystemInfo.h"
 
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 #include "support/LocalTime.h"
 
 #include <langinfo.h>

@@ -1,6 +1,6 @@
 #include "support/Trash.h"
 
-#include "app/VbError.h"
+#include "support/VbError.h"
 #include "support/FileErrors.h"
 #include "support/LocalTime.h"
 

@@ -17,7 +17,7 @@
 #include "model/SaveAs.h"
 #include "model/SendFax.h"
 #include "model/SendMail.h"
-#include "options/OptionPlaceholders.h"
+#include "model/OptionPlaceholders.h"
 #include "support/FileHelpers.h"
 #include "support/Printers.h"
 #include "verify/VerifyGuard.h"

@@ -1,8 +1,8 @@
 #include "verify/ProcessVerifier.h"
 
 #include "app/Downloads.h"
-#include "app/TextCompare.h"
-#include "app/VbStrings.h"
+#include "support/TextCompare.h"
+#include "support/VbStrings.h"
 #include "model/Activities.h"
 #include "model/Database.h"
 #include "model/Databases.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/ReportError.h"
-#include "app/VbError.h"
+#include "support/ReportError.h"
+#include "support/VbError.h"
 #include "verify/ProcessVerifier.h"
 
 #include <string_view>

@@ -1,6 +1,6 @@
 // The small shared helpers whose rules other parts rely on.
 #include "app/Common.h"
-#include "app/VbError.h"
+#include "support/VbError.h"
 #include "support/AppPaths.h"
 
 #include "testsupport/ScriptedPrompts.h"

@@ -2,7 +2,7 @@
 #include "app/ErrorNumbers.h"
 
 #include "app/Common.h"
-#include "app/VbError.h"
+#include "support/VbError.h"
 #include "support/AppPaths.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Cli.h"
+#include "cli/Cli.h"
 
 #include "support/AppPaths.h"
 #include "testsupport/TempFolder.h"

@@ -2,7 +2,7 @@
 // processes file holds them.
 #include "options/DefaultOptions.h"
 #include "options/OptionKinds.h"
-#include "options/OptionPlaceholders.h"
+#include "model/OptionPlaceholders.h"
 
 #include "model/ModelFixture.h"
 
@@ -43,13 +43,12 @@ TEST(DefaultOptions, GroupsInOrderWithKindsAndDefaults) {
     EXPECT_EQ(Detail(*options, "Email", "DefaultEmailTemplateHTML", "Default"), "<none>");
 }
 
-TEST(OptionKinds, DigitsGiveRowTypesAndLocking) {
-    using namespace grid;
-    EXPECT_EQ(KindOfDigit("0"), (OptionKind{ExPropText, false}));
-    EXPECT_EQ(KindOfDigit("1"), (OptionKind{ExPropBoolean, true}));
-    EXPECT_EQ(KindOfDigit("4"), (OptionKind{ExPropCustomList, false}));
-    EXPECT_EQ(KindOfDigit("5"), (OptionKind{ExPropCustomList, true}));
-    EXPECT_EQ(KindOfDigit("8"), (OptionKind{ExPropBrowse, true}));
+TEST(OptionKinds, DigitsGiveEditorsAndLocking) {
+    EXPECT_EQ(KindOfDigit("0"), (OptionKind{OptionEditor::Text, false}));
+    EXPECT_EQ(KindOfDigit("1"), (OptionKind{OptionEditor::YesNo, true}));
+    EXPECT_EQ(KindOfDigit("4"), (OptionKind{OptionEditor::List, false}));
+    EXPECT_EQ(KindOfDigit("5"), (OptionKind{OptionEditor::List, true}));
+    EXPECT_EQ(KindOfDigit("8"), (OptionKind{OptionEditor::Tool, true}));
     for (const char* other : {"9", "-1", "", "abc", "1e9"}) EXPECT_EQ(KindOfDigit(other), OptionKind{}) << other;
 }
 

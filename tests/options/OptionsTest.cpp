@@ -2,7 +2,7 @@
 #include "options/Options.h"
 
 #include "model/xml/CProcessesXMLDoc.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
 #include <gtest/gtest.h>
 

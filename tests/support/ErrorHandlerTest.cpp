@@ -1,7 +1,7 @@
 // How a trapped error becomes a box, a log record and a report.
 #include "support/ErrorHandler.h"
 
-#include "app/ReportError.h"
+#include "support/ReportError.h"
 #include "support/AppPaths.h"
 #include "testsupport/ScriptedPrompts.h"
 #include "testsupport/TempFolder.h"

@@ -1,6 +1,6 @@
 #include "grid/widget/GridDialogs.h"
 
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 #include "grid/widget/GridColors.h"
 
 #include <QFileDialog>

@@ -1,6 +1,6 @@
 #include "grid/widget/Popups.h"
 
-#include "app/TextCompare.h"
+#include "support/TextCompare.h"
 
 #include <QKeyEvent>
 #include <QListWidget>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/VbError.h"
+#include "support/VbError.h"
 #include "grid/Properties.h"
 #include "grid/PropertyOwner.h"
 #include "grid/widget/GridDialogs.h"

@@ -2,7 +2,7 @@
 // pop-up and the button's work.
 #include "grid/widget/PropertyList.h"
 
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 #include "grid/ValueFormat.h"
 #include "grid/widget/EditorParts.h"
 #include "grid/widget/GridColors.h"

@@ -1,7 +1,7 @@
 // Design-time settings through a property bag, and the short date pattern.
 #include "grid/widget/PropertyList.h"
 
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 #include "grid/widget/GridColors.h"
 
 #include <QApplication>

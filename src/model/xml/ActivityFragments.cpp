@@ -1,8 +1,8 @@
 // The writer's fragments of the seven activities.
 #include "model/xml/CProcessesXMLDoc.h"
 
-#include "app/ReportError.h"
-#include "app/TextCompare.h"
+#include "support/ReportError.h"
+#include "support/TextCompare.h"
 #include "model/AddRecord.h"
 #include "model/Convert.h"
 #include "model/FieldValue.h"

@@ -1,7 +1,7 @@
 #include "model/xml/CProcessesXMLDoc.h"
 
-#include "app/ReportError.h"
-#include "app/VbStrings.h"
+#include "support/ReportError.h"
+#include "support/VbStrings.h"
 #include "model/Activities.h"
 #include "model/Databases.h"
 #include "model/Datasources.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/Forward.h"
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
 #include <pugixml.hpp>
 

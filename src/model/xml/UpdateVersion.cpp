@@ -2,8 +2,8 @@
 #include "model/xml/UpdateVersion.h"
 
 #include "app/Common.h"
-#include "app/TextCompare.h"
-#include "app/VbStrings.h"
+#include "support/TextCompare.h"
+#include "support/VbStrings.h"
 #include "model/Activities.h"
 #include "model/Database.h"
 #include "model/Databases.h"

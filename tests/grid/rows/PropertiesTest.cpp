@@ -2,7 +2,7 @@
 #include "grid/Properties.h"
 #include "grid/PropertyOwner.h"
 
-#include "app/VbError.h"
+#include "support/VbError.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "app/VbError.h"
+#include "support/VbError.h"
 
 #include <exception>
 #include <new>

@@ -1,4 +1,4 @@
-#include "app/TextCompare.h"
+#include "support/TextCompare.h"
 
 #include <utf8proc.h>
 

@@ -1,4 +1,4 @@
-#include "app/ReportError.h"
+#include "support/ReportError.h"
 
 #include "support/ErrorHandler.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/VbError.h"
+#include "support/VbError.h"
 
 #include <string_view>
 

@@ -1,7 +1,7 @@
-#include "model/xml/XmlDocument.h"
+#include "app/XmlDocument.h"
 
-#include "app/TextCompare.h"
-#include "app/VbError.h"
+#include "support/TextCompare.h"
+#include "support/VbError.h"
 #include "support/FileBytes.h"
 
 

@@ -1,7 +1,7 @@
-#include "app/VbStrings.h"
+#include "support/VbStrings.h"
 
-#include "app/TextCompare.h"
-#include "app/VbError.h"
+#include "support/TextCompare.h"
+#include "support/VbError.h"
 
 #include <chrono>
 #include <cmath>

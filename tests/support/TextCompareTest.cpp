@@ -1,6 +1,6 @@
 // Comparing and finding names without regard to case, in any script.
-#include "app/TextCompare.h"
-#include "app/VbStrings.h"
+#include "support/TextCompare.h"
+#include "support/VbStrings.h"
 
 #include <gtest/gtest.h>
 

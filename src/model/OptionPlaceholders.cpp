@@ -1,6 +1,6 @@
-#include "options/OptionPlaceholders.h"
+#include "model/OptionPlaceholders.h"
 
-#include "app/TextCompare.h"
+#include "support/TextCompare.h"
 #include "model/Database.h"
 #include "model/Databases.h"
 #include "model/Processes.h"
