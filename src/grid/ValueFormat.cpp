@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <vector>
 
 namespace flowloom::grid {
@@ -90,9 +89,7 @@ std::string FormatNumber(double value, const std::string& format) {
     const std::size_t point = format.find('.');
     const std::size_t decimals = point == std::string::npos ? 0 : format.size() - point - 1;
     const bool grouped = format.find(',') != std::string::npos;
-    char buf[64];
-    std::snprintf(buf, sizeof buf, "%.*f", static_cast<int>(decimals), std::fabs(value));
-    std::string text = buf;
+    std::string text = vb::FixedText(std::fabs(value), static_cast<int>(decimals));
     if (grouped) {
         const std::size_t dot = std::min(text.find('.'), text.size());
         text = vb::GroupDigits(std::string_view(text).substr(0, dot)) + text.substr(dot);

@@ -3,9 +3,9 @@
 #include "support/TextCompare.h"
 #include "support/VbError.h"
 
+#include <charconv>
 #include <chrono>
 #include <cmath>
-#include <cstdio>
 #include <ctime>
 #include <limits>
 
@@ -72,6 +72,47 @@ namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+// The power of ten of a decimal text's first significant digit: "0.05" gives
+// -2, "123e4" gives 6. Tells overflow from underflow when a number is out of
+// the range of a double.
+long DecimalMagnitude(std::string_view text) {
+    long position = 0;  // of the first significant digit, relative to the point
+    bool seenPoint = false, seenSignificant = false;
+    std::size_t i = 0;
+    for (; i < text.size() && (IsDigit(text[i]) || text[i] == '.'); ++i) {
+        if (text[i] == '.') {
+            seenPoint = true;
+        } else if (!seenSignificant && text[i] != '0') {
+            seenSignificant = true;
+            if (seenPoint) --position;
+        } else if (seenSignificant && !seenPoint) {
+            ++position;
+        } else if (!seenSignificant && seenPoint) {
+            --position;
+        }
+    }
+    if (!seenSignificant) return 0;
+    long exponent = 0;
+    if (i < text.size()) {
+        const std::string_view digits = text.substr(i + 1);
+        std::from_chars(digits.data() + (digits.starts_with('+') ? 1 : 0), digits.data() + digits.size(), exponent);
+    }
+    return position + exponent;
+}
+
+// A decimal number in the C notation, whatever the user's locale: the host's
+// conversion never takes a comma for the point. Out of range gives infinity
+// (too large) or zero (too small), as strtod does.
+double ParseDecimal(std::string_view text) {
+    const bool negative = text.starts_with('-');
+    if (negative || text.starts_with('+')) text.remove_prefix(1);
+    double value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec == std::errc::result_out_of_range)
+        value = DecimalMagnitude(text) > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+    return negative ? -value : value;
+}
+
 std::optional<double> RadixNumber(std::string_view body, int radix) {
     if (body.empty() || body.size() > 16) return std::nullopt;
     double value = 0;
@@ -132,7 +173,7 @@ std::optional<double> ToNumber(std::string_view raw) {
         digits += exponent;
     }
     if (i != s.size()) return std::nullopt;
-    double value = std::strtod(digits.c_str(), nullptr);
+    const double value = ParseDecimal(digits);
     if (!std::isfinite(value)) return std::nullopt;
     return negative ? -value : value;
 }
@@ -152,7 +193,7 @@ double Val(std::string_view text) {
         number += compact[i++];
     }
     if (number.empty() || number == "+" || number == "-" || number == ".") return 0;
-    double value = std::strtod(number.c_str(), nullptr);
+    const double value = ParseDecimal(number);
     return std::isfinite(value) ? value : 0;
 }
 
@@ -175,14 +216,17 @@ std::optional<bool> ToBool(std::string_view text) {
 bool ReadBool(std::string_view text) { return ToBool(text).value_or(false); }
 
 std::string NumberText(double value) {
-    if (std::floor(value) == value && std::fabs(value) < 1e15) {
-        char buf[32];
-        std::snprintf(buf, sizeof buf, "%.0f", value);
-        return buf;
-    }
+    if (std::floor(value) == value && std::fabs(value) < 1e15) return FixedText(value, 0);
     char buf[32];
-    std::snprintf(buf, sizeof buf, "%.15g", value);
-    return buf;
+    const auto result = std::to_chars(buf, buf + sizeof buf, value, std::chars_format::general, 15);
+    return std::string(buf, result.ptr);
+}
+
+std::string FixedText(double value, int decimals) {
+    char buf[400];  // the widest double in fixed notation, with room for decimals
+    const auto result = std::to_chars(buf, buf + sizeof buf, value, std::chars_format::fixed, decimals);
+    if (result.ec != std::errc()) return NumberText(value);
+    return std::string(buf, result.ptr);
 }
 
 std::string SerialNowText() {
@@ -203,9 +247,7 @@ std::string SerialNowText() {
     today.tm_min = today.tm_sec = 0;
     const double days = std::round(std::difftime(timegm(&today), timegm(&epoch)) / 86400.0);
     const double seconds = local.tm_hour * 3600.0 + local.tm_min * 60.0 + local.tm_sec + micros / 1e6;
-    char buf[48];
-    std::snprintf(buf, sizeof buf, "%.10f", days + seconds / 86400.0);
-    return buf;
+    return FixedText(days + seconds / 86400.0, 10);
 }
 
 std::string GroupDigits(std::string_view digits) {

@@ -6,6 +6,9 @@
 #include <string_view>
 #include <vector>
 
+// Numbers are read and written in the C notation whatever the user's locale:
+// the processes file and generated macros must not change with it.
+//
 // String operations with the semantics of the host language that the
 // processes file and the run-time library share: blanks-only trimming,
 // Split that gives one empty element for an empty text, a numeric test that
@@ -42,6 +45,8 @@ std::optional<bool> ToBool(std::string_view text);
 
 // CStr of a number: integers without a decimal point, others shortest form.
 std::string NumberText(double value);
+// A number with a fixed count of decimals and a point, whatever the locale.
+std::string FixedText(double value, int decimals);
 
 // Format(value, "0.0000000000") of a serial day number: the fraction of the
 // present day, as used in backup and temporary names.

@@ -1,5 +1,6 @@
 // A file that uses every element and attribute comes back byte for byte.
 #include "ModelFixture.h"
+#include "testsupport/ScopedLocale.h"
 
 #include "model/Process.h"
 
@@ -58,6 +59,16 @@ TEST_F(RoundTrip, ValuesWithEveryEscapedCharacterSurvive) {
 TEST_F(RoundTrip, UnknownAttributesAndElementsAreDropped) {
     auto processes = LoadText(Document(R"(<Process Name="p" Colour="red"><Extra/></Process><Unknown/>)"));
     EXPECT_EQ(processes->XML(), Document(R"(<Process Name="p" ProcessRecords="Current"/>)"));
+}
+
+TEST_F(RoundTrip, NumbersKeepTheCNotationUnderACommaLocale) {
+    ScopedLocale locale(kCommaLocale);
+    if (!locale.Active()) GTEST_SKIP() << kCommaLocale << " is not installed";
+    const std::string original = ReadAll(SourceDir() / "tests/data/every_element.xml");
+    EXPECT_EQ(LoadText(original)->XML(), original);
+    // "0.6" is read as 0.6 and rounds to version 1, so the file is not converted.
+    auto processes = LoadText(R"(<?xml version="1.0" encoding="UTF-8"?><Processes Version="0.6"/>)");
+    EXPECT_EQ(processes->Version(), 1);
 }
 
 }  // namespace

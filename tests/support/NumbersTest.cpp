@@ -1,0 +1,43 @@
+// Numbers read from and written to the file and macros keep the C notation
+// under a locale whose decimal separator is a comma.
+#include "testsupport/ScopedLocale.h"
+
+#include "support/VbStrings.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace flowloom::test {
+namespace {
+
+TEST(Numbers, ReadAndWrittenWithAPointUnderACommaLocale) {
+    ScopedLocale locale(kCommaLocale);
+    if (!locale.Active()) GTEST_SKIP() << kCommaLocale << " is not installed (tools/setup installs it)";
+    EXPECT_EQ(vb::ToNumber("1.5"), 1.5);
+    EXPECT_EQ(vb::ToNumber(" -0.25 "), -0.25);
+    EXPECT_EQ(vb::ToNumber("1,5"), std::nullopt);
+    EXPECT_EQ(vb::Val("2.5 kg"), 2.5);
+    EXPECT_EQ(vb::Val("+ 3 . 5"), 3.5);
+    EXPECT_EQ(vb::NumberText(1.5), "1.5");
+    EXPECT_EQ(vb::NumberText(-1234567.125), "-1234567.125");
+    EXPECT_EQ(vb::FixedText(2.0 / 3.0, 4), "0.6667");
+    EXPECT_NE(vb::SerialNowText().find('.'), std::string::npos);
+    EXPECT_EQ(vb::CLng(vb::Val("2.5")), 2);  // half to even, not a cut at the comma
+}
+
+TEST(Numbers, OutOfRangeOverflowsOrVanishesAsTheHostsConversion) {
+    EXPECT_EQ(vb::ToNumber("1e400"), std::nullopt);
+    EXPECT_EQ(vb::ToNumber("-123456789e305"), std::nullopt);
+    EXPECT_EQ(vb::ToNumber("1e-400"), 0.0);
+    EXPECT_EQ(vb::ToNumber("0.0000001e-320"), 0.0);
+    EXPECT_EQ(vb::ToNumber("1D3"), 1000.0);
+    EXPECT_EQ(vb::ToNumber(".5"), 0.5);
+    EXPECT_EQ(vb::ToNumber("5."), 5.0);
+    EXPECT_EQ(vb::Val("-.5"), -0.5);
+    EXPECT_EQ(vb::NumberText(1e20), "1e+20");
+    EXPECT_EQ(vb::NumberText(0.1 + 0.2), "0.3");
+}
+
+}  // namespace
+}  // namespace flowloom::test
