@@ -32,7 +32,7 @@ std::string ReadMessages(const pugi::xml_node& messages, CXmlMessages::Collectio
 }  // namespace
 
 bool CXmlMessages::Load(const std::string& vstrXmlFileFullPath) {
-    try {
+    return GuardedOr("CXmlMessages", "Load", false, [&] {
         std::string errorText;
         XmlDocument document;
         if (!document.Load(vstrXmlFileFullPath)) {
@@ -46,10 +46,7 @@ bool CXmlMessages::Load(const std::string& vstrXmlFileFullPath) {
         if (errorText.empty()) return true;
         MsgBox(errorText, msgbox::Critical);
         return false;
-    } catch (...) {
-        ReportPendingError("CXmlMessages", "Load");
-        return false;
-    }
+    });
 }
 
 std::string CXmlMessages::GetMessage(const std::string& vstrMsgCode) const {

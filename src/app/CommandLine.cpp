@@ -76,12 +76,10 @@ CommandLineArguments& gCommandLineArguments() {
 void SetRawCommandLine(std::string commandLine) { RawCommandLine() = std::move(commandLine); }
 
 void GetCommandLineArguments(std::string& commandLine) {
-    try {
+    Guarded("mCommandLine", "GetCommandLineArguments", [&] {
         commandLine = RawCommandLine();
         gCommandLineArguments().Parse(commandLine);
-    } catch (...) {
-        ReportPendingError("mCommandLine", "GetCommandLineArguments");
-    }
+    });
 }
 
 bool IsOptionWord(std::string_view argument) {

@@ -77,6 +77,13 @@ public:
     void Remove(std::int32_t index) { EraseAt(CheckedIndex(index)); }
     void Remove(std::string_view key) { EraseAt(IndexOfKey(key)); }
     void RemoveAt(const CollectionPosition& position) { EraseAt(ResolvePosition(position)); }
+    // As RemoveAt, but a position that names no item gives false instead of an error.
+    bool TryRemoveAt(const CollectionPosition& position) {
+        const std::size_t i = FindPosition(position);
+        if (i == kNone) return false;
+        EraseAt(i);
+        return true;
+    }
 
     // 1-based index of the very object, or 0.
     std::int32_t IndexOf(const T* item) const noexcept {
@@ -154,6 +161,12 @@ private:
         const std::size_t i = key.empty() ? kNone : FindFolded(FoldCase(key));
         if (i == kNone) RaiseStandardError(vberr::InvalidProcedureCall);
         return i;
+    }
+    std::size_t FindPosition(const CollectionPosition& position) const {
+        if (auto* i = std::get_if<std::int32_t>(&position))
+            return *i >= 1 && static_cast<std::size_t>(*i) <= entries_.size() ? static_cast<std::size_t>(*i - 1) : kNone;
+        if (auto* k = std::get_if<std::string>(&position)) return k->empty() ? kNone : FindFolded(FoldCase(*k));
+        return kNone;
     }
     std::size_t ResolvePosition(const CollectionPosition& position) const {
         if (auto* i = std::get_if<std::int32_t>(&position)) return CheckedIndex(*i);

@@ -24,16 +24,9 @@ constexpr int kNestedIndent = 12;
 constexpr std::int32_t kWord = 1;
 constexpr std::int32_t kExcel = 2;
 
-// An emitter's error handler: the failure is reported, the lines written
+// An emitter's failure is reported under this module; the lines written
 // before it stay in the buffer.
-template <typename Body>
-void Guarded(std::string_view procedure, Body&& body) {
-    try {
-        body();
-    } catch (...) {
-        ReportPendingError("CGenerateCode", procedure);
-    }
-}
+constexpr const char* kModule = "CGenerateCode";
 
 // One pass-through argument: its member in the macro and whether it is quoted.
 template <typename Arg>
@@ -131,7 +124,7 @@ void RecipientLines(CodeBuffer& out, const std::string& text, std::string_view l
     out.Line(kIndent, std::string(assignment) + variable);
 }
 
-void MailAccountLines(CodeBuffer& out, SendMail& activity) {
+void MailAccountLines(CodeBuffer& out, const SendMail& activity) {
     const std::int32_t application = activity.MailApplication();
     if (application != 0)
         out.Line(kIndent, ".MailApplication = " + std::to_string(application) +
@@ -151,8 +144,8 @@ void MailAccountLines(CodeBuffer& out, SendMail& activity) {
 
 }  // namespace
 
-void SetMailMerge(CodeBuffer& out, MailMerge& activity) {
-    Guarded("SetMailMerge", [&] {
+void SetMailMerge(CodeBuffer& out, const MailMerge& activity) {
+    Guarded(kModule, "SetMailMerge", [&] {
         out.QuotedIfSet(kIndent, ".Description", activity.Description());
         out.QuotedIfSet(kIndent, ".InvokedApplication", activity.InvokedApplication());
         out.QuotedIfSet(kIndent, ".Template", activity.Template());
@@ -170,7 +163,7 @@ void SetMailMerge(CodeBuffer& out, MailMerge& activity) {
 }
 
 void SetSaveAs(CodeBuffer& out, const SaveAs& activity) {
-    Guarded("SetSaveAs", [&] {
+    Guarded(kModule, "SetSaveAs", [&] {
         out.QuotedIfSet(kIndent, ".Description", activity.Description());
         out.QuotedIfSet(kIndent, ".InputDocumentName", activity.InputDocumentName());
         out.QuotedIfSet(kIndent, ".Folder", activity.Folder());
@@ -187,7 +180,7 @@ void SetSaveAs(CodeBuffer& out, const SaveAs& activity) {
 }
 
 void SetPrintOut(CodeBuffer& out, const PrintOut& activity) {
-    Guarded("SetPrintOut", [&] {
+    Guarded(kModule, "SetPrintOut", [&] {
         out.QuotedIfSet(kIndent, ".Description", activity.Description());
         out.QuotedIfSet(kIndent, ".InputDocumentName", activity.InputDocumentName());
         ArgumentLines(out, activity, kPrintOutCommonLines);
@@ -201,8 +194,8 @@ void SetPrintOut(CodeBuffer& out, const PrintOut& activity) {
     });
 }
 
-void SetConvert(CodeBuffer& out, Convert& activity, const Options* options) {
-    Guarded("SetConvert", [&] {
+void SetConvert(CodeBuffer& out, const Convert& activity, const Options* options) {
+    Guarded(kModule, "SetConvert", [&] {
         out.QuotedIfSet(kIndent, ".Description", activity.Description());
         out.QuotedIfSet(kIndent, ".InputDocumentName", activity.InputDocumentName());
         out.QuotedIfSet(kIndent, ".OutputDocumentName", activity.OutputDocumentName());
@@ -223,8 +216,8 @@ void SetConvert(CodeBuffer& out, Convert& activity, const Options* options) {
     });
 }
 
-void SetSendMail(CodeBuffer& out, SendMail& activity, std::int32_t count, const std::string& mainDataSourceName) {
-    Guarded("SetSendMail", [&] {
+void SetSendMail(CodeBuffer& out, const SendMail& activity, std::int32_t count, const std::string& mainDataSourceName) {
+    Guarded(kModule, "SetSendMail", [&] {
         out.QuotedIfSet(kIndent, ".Description", activity.Description());
         out.QuotedIfSet(kIndent, ".InputDocumentName", activity.InputDocumentName());
         out.QuotedIfSet(kIndent, ".OutputDocumentName", activity.OutputDocumentName());
@@ -247,7 +240,7 @@ void SetSendMail(CodeBuffer& out, SendMail& activity, std::int32_t count, const 
 }
 
 void SetSendFax(CodeBuffer& out, const SendFax& activity) {
-    Guarded("SetSendFax", [&] {
+    Guarded(kModule, "SetSendFax", [&] {
         out.QuotedIfSet(kIndent, ".Description", activity.Description());
         out.QuotedIfSet(kIndent, ".InputDocumentName", activity.InputDocumentName());
         out.QuotedIfSet(kIndent, ".Address", activity.Address());
@@ -255,9 +248,9 @@ void SetSendFax(CodeBuffer& out, const SendFax& activity) {
     });
 }
 
-void SetAddRecord(CodeBuffer& out, AddRecord& activity, std::int32_t& fieldValueCounter,
+void SetAddRecord(CodeBuffer& out, const AddRecord& activity, std::int32_t& fieldValueCounter,
                   const std::string& mainDataSourceName) {
-    Guarded("SetAddRecord", [&] {
+    Guarded(kModule, "SetAddRecord", [&] {
         out.QuotedIfSet(kIndent, ".Description", activity.Description());
         out.QuotedIfSet(kIndent, ".Database", activity.Database());
         out.QuotedIfSet(kIndent, ".TableName", activity.Tablename());

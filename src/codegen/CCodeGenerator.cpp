@@ -7,19 +7,13 @@
 #include "codegen/ActivityEmitters.h"
 #include "codegen/ProcedureName.h"
 #include "model/Activities.h"
-#include "model/AddRecord.h"
-#include "model/Convert.h"
 #include "model/Database.h"
 #include "model/Datasources.h"
 #include "model/Documents.h"
 #include "model/FieldValue.h"
-#include "model/MailMerge.h"
-#include "model/PrintOut.h"
 #include "model/Process.h"
 #include "model/Processes.h"
-#include "model/SaveAs.h"
-#include "model/SendFax.h"
-#include "model/SendMail.h"
+#include "model/VisitActivity.h"
 #include "support/Prompts.h"
 
 #include <algorithm>
@@ -42,20 +36,6 @@ constexpr const char* kXmlModeCode =
     "    vlkCurrentProcesses.Processes(\"{ProcessName}\").Execute               \r\n"
     "    Set vlkCurrentProcesses = Nothing                                      \r\n";
 
-// The activity kinds in the order their code comes out: grouped by kind, so
-// all mail merges run first whatever their place in the process.
-constexpr std::array<const char*, 7> kActivityKinds = {"MailMerge", "SaveAs",   "PrintOut", "Convert",
-                                                       "SendMail",  "SendFax", "AddRecord"};
-
-// An error handler that reports and lets the caller go on.
-template <typename Body>
-void Guarded(std::string_view procedure, Body&& body) {
-    try {
-        body();
-    } catch (...) {
-        ReportPendingError(kModule, procedure);
-    }
-}
 
 // The declaration, creation and release lines of one kind of member, with
 // "{n}" for its number.
@@ -119,11 +99,11 @@ const std::string& FrameTemplate() {
     return text;
 }
 
-std::string CCodeGenerator::GenerateCode(const std::shared_ptr<Process>& process, const std::string& processesFile) {
+std::string CCodeGenerator::GenerateCode(const std::shared_ptr<const Process>& process, const std::string& processesFile) {
     process_ = process;
     processesFile_ = processesFile;
     result_.clear();
-    Guarded("GenerateCode", [&] {
+    Guarded(kModule, "GenerateCode", [&] {
         result_ = processesFile_.empty() ? ClassesModeCode() : XmlModeCode();
     });
     if (!result_.empty()) CurrentPrompts().ShowText(result_);
@@ -156,7 +136,8 @@ std::string CCodeGenerator::ClassesModeCode() {
     SetProcess();
     SetDatasources();
     SetDocuments();
-    for (const char* kind : kActivityKinds) SetActivities(kind);
+    // Grouped by kind, so all mail merges run first whatever their place in the process.
+    for (ActivityKind kind : kActivityKinds) SetActivities(kind);
 
     cleanUp_.Line(kStatement, "Set vlkProcess = Nothing");
     cleanUp_.Line(kStatement, "Screen.MousePointer = 0");
@@ -184,7 +165,7 @@ void CCodeGenerator::SetDatabases() {
         const auto database = parent ? parent->GetDatabaseByName(name) : nullptr;
         if (!database || database->Location.empty()) continue;
         if (!database->Type_.empty() && database->Type_ != "Microsoft Access") continue;
-        Guarded("SetDatabases", [&] { kept.Add(database, name); });
+        Guarded(kModule, "SetDatabases", [&] { kept.Add(database, name); });
     }
     for (const auto& database : kept) {
         if (databaseSetUp_.Empty()) {
@@ -203,7 +184,7 @@ void CCodeGenerator::SetDatabases() {
 }
 
 void CCodeGenerator::MemeberCode(std::string_view kind) {
-    Guarded("MemeberCode", [&] {
+    Guarded(kModule, "MemeberCode", [&] {
         const auto& table = MemberTable();
         const auto lines = std::find_if(table.begin(), table.end(),
                                         [&](const MemberLines& entry) { return kind == entry.kind; });
@@ -219,13 +200,13 @@ void CCodeGenerator::MemeberCode(std::string_view kind) {
         } else if (kind == "Document") {
             for (std::int32_t i = 0; i < process_->Documents()->Count(); ++i) addMember();
         } else {
+            const std::optional<ActivityKind> activityKind = ActivityKindOfName(kind);
             for (const auto& activity : *process_->Activities()) {
-                if (!EqualsNoCase(activity->ActivityType(), kind)) continue;
+                if (activity->Kind() != activityKind) continue;
                 addMember();
-                if (kind != "AddRecord") continue;
-                auto& addRecord = static_cast<AddRecord&>(*activity);
-                if (!addRecord.HasFieldValues()) continue;
-                for (std::int32_t i = 0; i < addRecord.FieldValues()->Count(); ++i) {
+                const auto* addRecord = ActivityAs<AddRecord>(activity.get());
+                if (!addRecord || !addRecord->HasFieldValues()) continue;
+                for (std::int32_t i = 0; i < addRecord->FieldValues()->Count(); ++i) {
                     const std::int32_t n = ++fieldValueCounter_;
                     declarations_.Line(kStatement, Numbered("Dim vlkFieldValue{n} As velorin.FieldValue", n));
                     setUp_.Line(kStatement, Numbered("Set vlkFieldValue{n} = New velorin.FieldValue", n));
@@ -238,8 +219,8 @@ void CCodeGenerator::MemeberCode(std::string_view kind) {
 }
 
 void CCodeGenerator::SetProcess() {
-    Guarded("SetProcess", [&] {
-        Process& process = *process_;
+    Guarded(kModule, "SetProcess", [&] {
+        const Process& process = *process_;
         setUp_.Line(kStatement, "With vlkProcess");
         setUp_.Quoted(kWith, ".Name", process.name());
         setUp_.Line(kWith, ".ProcessRecords = " + std::to_string(process.ProcessRecords()) +
@@ -268,7 +249,7 @@ void CCodeGenerator::SetProcess() {
 }
 
 void CCodeGenerator::SetDatasources() {
-    Guarded("SetDatasources", [&] {
+    Guarded(kModule, "SetDatasources", [&] {
         std::int32_t count = 0;
         for (const auto& datasource : *process_->Datasources()) {
             const std::string n = std::to_string(++count);
@@ -288,7 +269,7 @@ void CCodeGenerator::SetDatasources() {
 }
 
 void CCodeGenerator::SetDocuments() {
-    Guarded("SetDocuments", [&] {
+    Guarded(kModule, "SetDocuments", [&] {
         std::int32_t count = 0;
         for (const auto& document : *process_->Documents()) {
             const std::string variable = "vlkDocument" + std::to_string(++count);
@@ -298,12 +279,12 @@ void CCodeGenerator::SetDocuments() {
     });
 }
 
-void CCodeGenerator::SetActivities(std::string_view kind) {
-    Guarded("SetActivities", [&] {
+void CCodeGenerator::SetActivities(ActivityKind kind) {
+    Guarded(kModule, "SetActivities", [&] {
         std::int32_t count = 0;
         for (const auto& activity : *process_->Activities()) {
-            if (!EqualsNoCase(activity->ActivityType(), kind)) continue;
-            const std::string variable = "vlk" + std::string(kind) + std::to_string(++count);
+            if (activity->Kind() != kind) continue;
+            const std::string variable = "vlk" + std::string(ActivityTypeName(kind)) + std::to_string(++count);
             setUp_.Line(kStatement, "With " + variable);
             EmitActivity(*activity, count);
             setUp_.Line(kStatement, "End With");
@@ -312,17 +293,23 @@ void CCodeGenerator::SetActivities(std::string_view kind) {
     });
 }
 
-void CCodeGenerator::EmitActivity(Activity& activity, std::int32_t count) {
-    const std::string type = activity.ActivityType();
-    const std::string& mainName = process_->MainDataSourceName();
-    if (type == "MailMerge") SetMailMerge(setUp_, static_cast<MailMerge&>(activity));
-    else if (type == "SaveAs") SetSaveAs(setUp_, static_cast<SaveAs&>(activity));
-    else if (type == "PrintOut") SetPrintOut(setUp_, static_cast<PrintOut&>(activity));
-    else if (type == "Convert")
-        SetConvert(setUp_, static_cast<Convert&>(activity), processes_ ? processes_->Options().get() : nullptr);
-    else if (type == "SendMail") SetSendMail(setUp_, static_cast<SendMail&>(activity), count, mainName);
-    else if (type == "SendFax") SetSendFax(setUp_, static_cast<SendFax&>(activity));
-    else if (type == "AddRecord") SetAddRecord(setUp_, static_cast<AddRecord&>(activity), fieldValueCounter_, mainName);
+void CCodeGenerator::EmitActivity(const Activity& activity, std::int32_t count) {
+    struct Emit {
+        CCodeGenerator& generator;
+        std::int32_t count;
+        const std::string& mainName;
+        CodeBuffer& out() const { return generator.setUp_; }
+        void operator()(const MailMerge& a) const { SetMailMerge(out(), a); }
+        void operator()(const SaveAs& a) const { SetSaveAs(out(), a); }
+        void operator()(const PrintOut& a) const { SetPrintOut(out(), a); }
+        void operator()(const Convert& a) const {
+            SetConvert(out(), a, generator.processes_ ? generator.processes_->Options().get() : nullptr);
+        }
+        void operator()(const SendMail& a) const { SetSendMail(out(), a, count, mainName); }
+        void operator()(const SendFax& a) const { SetSendFax(out(), a); }
+        void operator()(const AddRecord& a) const { SetAddRecord(out(), a, generator.fieldValueCounter_, mainName); }
+    };
+    VisitActivity(activity, Emit{*this, count, process_->MainDataSourceName()});
 }
 
 }  // namespace flowloom

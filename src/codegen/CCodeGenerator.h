@@ -1,6 +1,7 @@
 #pragma once
 
 #include "codegen/CodeBuffer.h"
+#include "model/ActivityKind.h"
 
 #include <cstdint>
 #include <memory>
@@ -22,11 +23,11 @@ class Processes;
 class CCodeGenerator {
 public:
     // The root object, for the options that some activities bake into the macro.
-    void SetProcesses(std::shared_ptr<Processes> processes) { processes_ = std::move(processes); }
+    void SetProcesses(std::shared_ptr<const Processes> processes) { processes_ = std::move(processes); }
 
     // Generates the macro, shows it in the text window when it is not empty,
     // and returns it.
-    std::string GenerateCode(const std::shared_ptr<Process>& process, const std::string& processesFile);
+    std::string GenerateCode(const std::shared_ptr<const Process>& process, const std::string& processesFile);
 
     const std::string& Result() const noexcept { return result_; }
 
@@ -38,11 +39,11 @@ private:
     void SetProcess();
     void SetDatasources();
     void SetDocuments();
-    void SetActivities(std::string_view kind);
-    void EmitActivity(Activity& activity, std::int32_t count);
+    void SetActivities(ActivityKind kind);
+    void EmitActivity(const Activity& activity, std::int32_t count);
 
-    std::shared_ptr<Processes> processes_;
-    std::shared_ptr<Process> process_;
+    std::shared_ptr<const Processes> processes_;
+    std::shared_ptr<const Process> process_;
     std::string processesFile_;
     std::string result_;
     std::int32_t fieldValueCounter_ = 0;

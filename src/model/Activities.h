@@ -3,7 +3,7 @@
 #include "app/KeyedCollection.h"
 #include "model/Activity.h"
 
-#include <map>
+#include <array>
 #include <memory>
 #include <string>
 
@@ -17,14 +17,16 @@ class Activities {
 public:
     // Adds under the activity's Key (before wins over after); counts its type;
     // gives it the process, if this collection knows one. Failures, also a
-    // key that exists, are reported and end the call.
-    void Add(const std::shared_ptr<Activity>& activity, const CollectionPosition& before = {},
+    // key that exists, are reported and end the call. Whether it was added.
+    bool Add(const std::shared_ptr<Activity>& activity, const CollectionPosition& before = {},
              const CollectionPosition& after = {});
     // Unknown index or key is reported; the result is then empty.
     std::shared_ptr<Activity> Item(const CollectionPosition& position) const;
     std::int32_t Count() const noexcept { return items_.Count(); }
-    void Remove(const CollectionPosition& position);
-    std::int32_t TypeCount(const std::string& activityType) const;
+    // False when the position names no activity.
+    bool Remove(const CollectionPosition& position);
+    // How many activities of the kind were ever added.
+    std::int32_t TypeCount(ActivityKind kind) const noexcept;
     std::int32_t IndexOf(const Activity* activity) const noexcept { return items_.IndexOf(activity); }
 
     auto begin() const { return items_.begin(); }
@@ -41,10 +43,12 @@ public:
 
 private:
     KeyedCollection<Activity> items_;
-    std::map<std::string, std::int32_t> typeCounts_;  // by folded type name
+    std::array<std::int32_t, kActivityKinds.size()> typeCounts_{};
     std::weak_ptr<flowloom::Process> process_;
 };
 
+// A new activity of the given kind.
+std::shared_ptr<Activity> CreateActivity(ActivityKind kind);
 // A new activity of the given type name (compared without regard to case),
 // or nothing for an unknown name.
 std::shared_ptr<Activity> CreateActivity(std::string_view typeName);

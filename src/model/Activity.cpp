@@ -15,7 +15,7 @@ float NextRandomFraction() {
     return value < 1.0f ? value : 0.0f;
 }
 
-const std::string& Activity::Key() {
+const std::string& Activity::Key() const {
     if (key_.empty())
         key_ = ActivityType() + std::to_string(vb::CLng(static_cast<double>(NextRandomFraction()) * 2147483648.0));
     return key_;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/ActivityKind.h"
+
 #include <pugixml.hpp>
 
 #include <memory>
@@ -17,11 +19,12 @@ class Activity {
 public:
     virtual ~Activity() = default;
 
+    virtual ActivityKind Kind() const noexcept = 0;
     // "MailMerge", "SaveAs", "PrintOut", "Convert", "SendMail", "SendFax", "AddRecord".
-    virtual std::string ActivityType() const = 0;
+    std::string ActivityType() const { return std::string(ActivityTypeName(Kind())); }
 
     // Made once from the type name and a random number, then kept; never saved.
-    const std::string& Key();
+    const std::string& Key() const;
     void SetKey(std::string key) { key_ = std::move(key); }
 
     std::shared_ptr<Process> ParentProcess() const { return parent_.lock(); }
@@ -38,7 +41,7 @@ public:
 
     // The name of the document this activity produces, for the activities
     // that have one; nullopt for the others.
-    virtual std::optional<std::string> ProducedDocumentName() { return std::nullopt; }
+    virtual std::optional<std::string> ProducedDocumentName() const { return std::nullopt; }
 
 protected:
     Activity() = default;
@@ -46,7 +49,7 @@ protected:
     Activity& operator=(const Activity&) = default;
 
 private:
-    std::string key_;
+    mutable std::string key_;  // made on first read
     std::string description_;
     std::weak_ptr<Process> parent_;
 };

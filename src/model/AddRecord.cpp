@@ -8,13 +8,13 @@
 
 namespace flowloom {
 
-const std::string& AddRecord::DatasourceName() {
+const std::string& AddRecord::DatasourceName() const {
     if (datasourceName_.empty())
         if (auto process = ParentProcess()) datasourceName_ = process->MainDataSourceName();
     return datasourceName_;
 }
 
-std::shared_ptr<flowloom::FieldValues> AddRecord::FieldValues() {
+std::shared_ptr<flowloom::FieldValues> AddRecord::FieldValues() const {
     if (!fieldValues_) fieldValues_ = std::make_shared<flowloom::FieldValues>();
     return fieldValues_;
 }
@@ -38,12 +38,10 @@ void AddRecord::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Pr
     fieldValues_ = std::make_shared<flowloom::FieldValues>();
     for (const pugi::xml_node& child : values.children()) {
         if (child.type() != pugi::node_element) continue;
-        try {
+        Guarded("AddRecord", "LoadElement", [&] {
             auto fieldValue = ReadFieldValue(child);
             fieldValues_->Add(fieldValue, fieldValue->field);  // a second of one name is reported
-        } catch (...) {
-            ReportPendingError("AddRecord", "LoadElement");
-        }
+        });
     }
 }
 

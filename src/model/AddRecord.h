@@ -11,15 +11,16 @@ namespace flowloom {
 // Adds a record to a table, for instance to log what was sent.
 class AddRecord : public Activity {
 public:
-    std::string ActivityType() const override { return "AddRecord"; }
+    static constexpr ActivityKind kKind = ActivityKind::AddRecord;
+    ActivityKind Kind() const noexcept override { return kKind; }
 
     // Falls back on the process's main datasource and keeps it.
-    const std::string& DatasourceName();
+    const std::string& DatasourceName() const;
     void SetDatasourceName(std::string value) { datasourceName_ = std::move(value); }
     // Never gives an object back, as for a MailMerge.
     std::shared_ptr<flowloom::Datasource> Datasource() const { return nullptr; }
     void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) { datasource_ = std::move(datasource); }
-    std::shared_ptr<flowloom::FieldValues> FieldValues();  // created on first read
+    std::shared_ptr<flowloom::FieldValues> FieldValues() const;  // created on first read
     bool HasFieldValues() const noexcept { return fieldValues_ != nullptr; }
     const std::string& Database() const noexcept { return database_; }
     void SetDatabase(std::string value) { database_ = std::move(value); }
@@ -30,9 +31,9 @@ public:
     void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
 
 private:
-    std::string datasourceName_;
+    mutable std::string datasourceName_;  // falls back on the main datasource
     std::shared_ptr<flowloom::Datasource> datasource_;
-    std::shared_ptr<flowloom::FieldValues> fieldValues_;
+    mutable std::shared_ptr<flowloom::FieldValues> fieldValues_;
     std::string database_;
     std::string tablename_;
 };

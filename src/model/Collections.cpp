@@ -15,41 +15,36 @@ namespace {
 
 // Adds with a key, ignoring a key that exists; other failures are reported.
 template <typename T>
-void AddIgnoringDuplicate(KeyedCollection<T>& items, const std::shared_ptr<T>& item, std::string_view key,
+bool AddIgnoringDuplicate(KeyedCollection<T>& items, const std::shared_ptr<T>& item, std::string_view key,
                           const CollectionPosition& before, const CollectionPosition& after,
                           std::string_view module) {
-    if (!item) return;
-    try {
-        items.TryAdd(item, key, before, after);
-    } catch (...) {
-        ReportPendingError(module, "Add");
-    }
+    if (!item) return false;
+    bool added = false;
+    Guarded(module, "Add", [&] { added = items.TryAdd(item, key, before, after); });
+    return added;
 }
 
 template <typename T>
 std::shared_ptr<T> ReportedItem(const KeyedCollection<T>& items, const CollectionPosition& position,
                                 std::string_view module) {
-    try {
-        return items.ItemAt(position);
-    } catch (...) {
-        ReportPendingError(module, "Item");
-        return nullptr;
-    }
+    std::shared_ptr<T> item;
+    Guarded(module, "Item", [&] { item = items.ItemAt(position); });
+    return item;
 }
 
 }  // namespace
 
 // --- Groups
 
-void Groups::Add(const std::shared_ptr<Group>& group, const std::string& key) {
-    AddIgnoringDuplicate(items_, group, key, {}, {}, "Groups");
+bool Groups::Add(const std::shared_ptr<Group>& group, const std::string& key) {
+    return AddIgnoringDuplicate(items_, group, key, {}, {}, "Groups");
 }
 
 std::shared_ptr<Group> Groups::Item(const CollectionPosition& position) const {
     return ReportedItem(items_, position, "Groups");
 }
 
-void Groups::Remove(const CollectionPosition& position) { items_.RemoveAt(position); }
+bool Groups::Remove(const CollectionPosition& position) { return items_.TryRemoveAt(position); }
 
 void Groups::LoadElement(const pugi::xml_node& node) {
     for (const pugi::xml_node& child : node.children()) {
@@ -62,25 +57,23 @@ void Groups::LoadElement(const pugi::xml_node& node) {
 
 // --- Databases
 
-void Databases::Add(const std::shared_ptr<Database>& database, const CollectionPosition& before,
+bool Databases::Add(const std::shared_ptr<Database>& database, const CollectionPosition& before,
                     const CollectionPosition& after) {
-    if (!database) return;
+    if (!database) return false;
     if (!database->name.empty() && items_.Contains(database->name)) {
         MsgBox("Database " + database->name + " already exists.", msgbox::Exclamation);
-        return;
+        return false;
     }
-    try {
-        items_.Add(database, database->name, before, after);
-    } catch (...) {
-        ReportPendingError("Databases", "Add");
-    }
+    bool added = false;
+    Guarded("Databases", "Add", [&] { added = items_.TryAdd(database, database->name, before, after); });
+    return added;
 }
 
 std::shared_ptr<Database> Databases::Item(const CollectionPosition& position) const {
     return ReportedItem(items_, position, "Databases");
 }
 
-void Databases::Remove(const CollectionPosition& position) { items_.RemoveAt(position); }
+bool Databases::Remove(const CollectionPosition& position) { return items_.TryRemoveAt(position); }
 
 void Databases::LoadElement(const pugi::xml_node& node) {
     for (const pugi::xml_node& child : node.children("Database")) {
@@ -92,15 +85,15 @@ void Databases::LoadElement(const pugi::xml_node& node) {
 
 // --- Documents
 
-void Documents::Add(const std::shared_ptr<Document>& document, const std::string& key) {
-    AddIgnoringDuplicate(items_, document, key, {}, {}, "Documents");
+bool Documents::Add(const std::shared_ptr<Document>& document, const std::string& key) {
+    return AddIgnoringDuplicate(items_, document, key, {}, {}, "Documents");
 }
 
 std::shared_ptr<Document> Documents::Item(const CollectionPosition& position) const {
     return ReportedItem(items_, position, "Documents");
 }
 
-void Documents::Remove(const CollectionPosition& position) { items_.RemoveAt(position); }
+bool Documents::Remove(const CollectionPosition& position) { return items_.TryRemoveAt(position); }
 
 void Documents::Dispose() {
     for (const auto& document : items_) document->Dispose();
@@ -117,17 +110,17 @@ void Documents::LoadElement(const pugi::xml_node& node) {
 
 // --- Datasources
 
-void Datasources::Add(const std::shared_ptr<Datasource>& datasource, const CollectionPosition& before,
+bool Datasources::Add(const std::shared_ptr<Datasource>& datasource, const CollectionPosition& before,
                       const CollectionPosition& after) {
-    if (!datasource) return;
-    AddIgnoringDuplicate(items_, datasource, datasource->name(), before, after, "Datasources");
+    if (!datasource) return false;
+    return AddIgnoringDuplicate(items_, datasource, datasource->name(), before, after, "Datasources");
 }
 
 std::shared_ptr<Datasource> Datasources::Item(const CollectionPosition& position) const {
     return ReportedItem(items_, position, "Datasources");
 }
 
-void Datasources::Remove(const CollectionPosition& position) { items_.RemoveAt(position); }
+bool Datasources::Remove(const CollectionPosition& position) { return items_.TryRemoveAt(position); }
 
 std::shared_ptr<Datasource> Datasources::GetMainDataSource(const std::string& name) const {
     if (items_.Empty()) return nullptr;
@@ -147,14 +140,12 @@ void Datasources::Dispose() {
 
 void Datasources::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
     for (const pugi::xml_node& child : node.children("Datasource")) {
-        try {
+        Guarded("Datasources", "LoadElement", [&] {
             auto datasource = std::make_shared<Datasource>();
             datasource->LoadElement(child, process);
             // Reading a main datasource registers it already: the first of a name wins.
             if (!items_.Contains(datasource->name())) Add(datasource);
-        } catch (...) {
-            ReportPendingError("Datasources", "LoadElement");
-        }
+        });
     }
 }
 

@@ -40,7 +40,7 @@ std::string Convert::FullName() {
     return Target().StoredFullName().Text();
 }
 
-std::int32_t Convert::Postscript2PDFConverter() {
+std::int32_t Convert::Postscript2PDFConverter() const {
     if (postscript2PDFConverter_ == 0) postscript2PDFConverter_ = DistillerInstalled() ? 1 : 2;
     return postscript2PDFConverter_;
 }

@@ -12,7 +12,8 @@ namespace flowloom {
 class Convert : public FileActivity {
 public:
     Convert();
-    std::string ActivityType() const override { return "Convert"; }
+    static constexpr ActivityKind kKind = ActivityKind::Convert;
+    ActivityKind Kind() const noexcept override { return kKind; }
 
     bool ShowDocument() const noexcept { return showDocument_; }
     void SetShowDocument(bool value) { showDocument_ = value; }
@@ -33,7 +34,7 @@ public:
     std::int32_t PDFConvertingMethod() const noexcept { return pdfConvertingMethod_; }
     void SetPDFConvertingMethod(std::int32_t value) { pdfConvertingMethod_ = value; }
     // 1 Acrobat Distiller, 2 Ghostscript; when 0, found out once and kept.
-    std::int32_t Postscript2PDFConverter();
+    std::int32_t Postscript2PDFConverter() const;
     void SetPostscript2PDFConverter(std::int32_t value) { postscript2PDFConverter_ = value; }
     const std::string& PostscriptPrinter() const noexcept { return postscriptPrinter_; }
     void SetPostscriptPrinter(std::string value) { postscriptPrinter_ = std::move(value); }
@@ -46,7 +47,7 @@ private:
     OverwriteMode overwrite_{1};
     std::int32_t outputFileFormat_ = 0;
     std::int32_t pdfConvertingMethod_ = 0;
-    std::int32_t postscript2PDFConverter_ = 0;
+    mutable std::int32_t postscript2PDFConverter_ = 0;  // chosen on first read
     std::string postscriptPrinter_;
 };
 

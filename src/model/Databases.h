@@ -12,11 +12,11 @@ class Databases {
 public:
     // A name that exists gives the message "Database <name> already exists."
     // and the database is not added.
-    void Add(const std::shared_ptr<Database>& database, const CollectionPosition& before = {},
+    bool Add(const std::shared_ptr<Database>& database, const CollectionPosition& before = {},
              const CollectionPosition& after = {});
     std::shared_ptr<Database> Item(const CollectionPosition& position) const;
     std::int32_t Count() const noexcept { return items_.Count(); }
-    void Remove(const CollectionPosition& position);
+    bool Remove(const CollectionPosition& position);
 
     auto begin() const { return items_.begin(); }
     auto end() const { return items_.end(); }

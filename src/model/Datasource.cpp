@@ -7,7 +7,7 @@
 
 namespace flowloom {
 
-const std::string& Datasource::name() {
+const std::string& Datasource::name() const {
     if (name_.empty()) name_ = ObjectName;
     return name_;
 }
@@ -16,7 +16,7 @@ void Datasource::LoadElement(const pugi::xml_node& node, const std::shared_ptr<P
     parent_ = process;
     bool recordsRead = false;
     for (const pugi::xml_attribute& a : node.attributes()) {
-        try {
+        Guarded("Datasource", "LoadElement", [&] {
             if (NameIs(a, "Name")) name_ = a.value();
             else if (NameIs(a, "Type")) Type_ = a.value();
             else if (NameIs(a, "Database")) Database = a.value();
@@ -29,19 +29,15 @@ void Datasource::LoadElement(const pugi::xml_node& node, const std::shared_ptr<P
                     recordsRead = true;
                 }
             }
-        } catch (...) {
-            ReportPendingError("Datasource", "LoadElement");
-        }
+        });
     }
     // Only a name that stands in the file makes a main datasource; one derived
     // from ObjectName does not take part.
     if (!process || name_.empty() || !EqualsNoCase(name_, process->MainDataSourceName())) return;
-    try {
+    Guarded("Datasource", "LoadElement", [&] {
         process->SetMainDataSource(weak_from_this().lock());
         if (recordsRead) process->SetProcessRecords(Records);
-    } catch (...) {
-        ReportPendingError("Datasource", "LoadElement");
-    }
+    });
 }
 
 void Datasource::Dispose() { parent_.reset(); }

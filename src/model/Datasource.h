@@ -23,7 +23,7 @@ public:
     std::string SaveXmlToFolder;
 
     // Falls back on ObjectName on first read and keeps it.
-    const std::string& name();
+    const std::string& name() const;
     // The stored name, without the fallback.
     const std::string& StoredName() const noexcept { return name_; }
     void SetName(std::string value) { name_ = std::move(value); }
@@ -37,7 +37,7 @@ public:
     void Dispose();
 
 private:
-    std::string name_;
+    mutable std::string name_;  // falls back on ObjectName on first read
     std::weak_ptr<Process> parent_;
 };
 

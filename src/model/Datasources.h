@@ -12,13 +12,14 @@ class Process;
 // The datasources of a process, keyed by name; the first of a name wins.
 class Datasources {
 public:
+    // Whether the datasource was added.
     // Adds under the datasource's name (no key when empty). A name that
     // exists is ignored without a word; other failures are reported.
-    void Add(const std::shared_ptr<Datasource>& datasource, const CollectionPosition& before = {},
+    bool Add(const std::shared_ptr<Datasource>& datasource, const CollectionPosition& before = {},
              const CollectionPosition& after = {});
     std::shared_ptr<Datasource> Item(const CollectionPosition& position) const;
     std::int32_t Count() const noexcept { return items_.Count(); }
-    void Remove(const CollectionPosition& position);
+    bool Remove(const CollectionPosition& position);
     bool Contains(std::string_view name) const { return items_.Contains(name); }
     bool Holds(const Datasource* datasource) const noexcept { return items_.IndexOf(datasource) != 0; }
 

@@ -12,10 +12,10 @@ class Documents {
 public:
     // Nothing for an empty reference; a key that exists is ignored without a
     // word; other failures are reported.
-    void Add(const std::shared_ptr<Document>& document, const std::string& key);
+    bool Add(const std::shared_ptr<Document>& document, const std::string& key);
     std::shared_ptr<Document> Item(const CollectionPosition& position) const;
     std::int32_t Count() const noexcept { return items_.Count(); }
-    void Remove(const CollectionPosition& position);
+    bool Remove(const CollectionPosition& position);
     bool Contains(std::string_view name) const { return items_.Contains(name); }
     std::shared_ptr<Document> Find(std::string_view name) const { return items_.Find(name); }
 

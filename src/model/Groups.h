@@ -11,10 +11,10 @@ namespace flowloom {
 class Groups {
 public:
     // Adds under the key when it is not empty; a key that exists is ignored.
-    void Add(const std::shared_ptr<Group>& group, const std::string& key);
+    bool Add(const std::shared_ptr<Group>& group, const std::string& key);
     std::shared_ptr<Group> Item(const CollectionPosition& position) const;
     std::int32_t Count() const noexcept { return items_.Count(); }
-    void Remove(const CollectionPosition& position);
+    bool Remove(const CollectionPosition& position);
     bool Contains(std::string_view name) const { return items_.Contains(name); }
     std::shared_ptr<Group> Find(std::string_view name) const { return items_.Find(name); }
 

@@ -14,7 +14,7 @@ std::vector<std::string>& MailMerge::Pictures() {
     return *pictures_;
 }
 
-const std::string& MailMerge::DatasourceName() {
+const std::string& MailMerge::DatasourceName() const {
     if (datasourceName_.empty() && datasource_) datasourceName_ = datasource_->name();
     return datasourceName_;
 }
@@ -24,7 +24,7 @@ void MailMerge::SetOutputDocumentName(const std::string& name) {
     outputDocumentName_ = name;
 }
 
-const std::string& MailMerge::InvokedApplication() {
+const std::string& MailMerge::InvokedApplication() const {
     if (invokedApplication_.empty()) invokedApplication_ = "Microsoft Word";
     return invokedApplication_;
 }
@@ -42,7 +42,7 @@ void MailMerge::Dispose() {
 void MailMerge::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
     for (const pugi::xml_attribute& a : node.attributes()) {
-        try {
+        Guarded("MailMerge", "LoadElement", [&] {
             if (NameIs(a, "InvokedApplication")) invokedApplication_ = a.value();
             else if (NameIs(a, "Template")) template_ = a.value();
             else if (NameIs(a, "OutputDocumentName")) {
@@ -57,9 +57,7 @@ void MailMerge::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Pr
             else if (NameIs(a, "PrecededBy")) precededBy_ = a.value();
             else if (NameIs(a, "SucceededBy")) succeededBy_ = a.value();
             else if (NameIs(a, "Iteration")) iteration_ = a.value();
-        } catch (...) {
-            ReportPendingError("MailMerge", "LoadElement");
-        }
+        });
     }
 }
 

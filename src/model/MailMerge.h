@@ -15,7 +15,8 @@ class Document;
 // Creates a document from a template and a datasource.
 class MailMerge : public Activity {
 public:
-    std::string ActivityType() const override { return "MailMerge"; }
+    static constexpr ActivityKind kKind = ActivityKind::MailMerge;
+    ActivityKind Kind() const noexcept override { return kKind; }
 
     std::vector<std::string>& Pictures();  // created on first read
 
@@ -35,7 +36,7 @@ public:
     std::shared_ptr<flowloom::Datasource> Datasource() const { return nullptr; }
     void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) { datasource_ = std::move(datasource); }
     // Falls back on the held datasource's name.
-    const std::string& DatasourceName();
+    const std::string& DatasourceName() const;
     void SetDatasourceName(std::string value) { datasourceName_ = std::move(value); }
 
     std::shared_ptr<Document> OutputDocument() const { return outputDocument_; }
@@ -44,7 +45,7 @@ public:
     void SetOutputDocumentName(const std::string& name);
 
     // "Microsoft Word" when empty, and kept.
-    const std::string& InvokedApplication();
+    const std::string& InvokedApplication() const;
     void SetInvokedApplication(std::string value) { invokedApplication_ = std::move(value); }
     const std::string& Template() const noexcept { return template_; }
     void SetTemplate(std::string value) { template_ = std::move(value); }
@@ -53,7 +54,7 @@ public:
 
     void Dispose() override;
     void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
-    std::optional<std::string> ProducedDocumentName() override { return outputDocumentName_; }
+    std::optional<std::string> ProducedDocumentName() const override { return outputDocumentName_; }
 
 private:
     std::unique_ptr<std::vector<std::string>> pictures_;
@@ -63,10 +64,10 @@ private:
     bool insertPagebreak_ = true;
     std::int32_t mailMergeType_ = 0;
     std::shared_ptr<flowloom::Datasource> datasource_;
-    std::string datasourceName_;
+    mutable std::string datasourceName_;  // falls back on the datasource's name
     std::shared_ptr<Document> outputDocument_;
     std::string outputDocumentName_;
-    std::string invokedApplication_;
+    mutable std::string invokedApplication_;  // "Microsoft Word" on first read when empty
     std::string template_;
     bool showDocument_ = true;
 };

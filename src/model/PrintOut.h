@@ -29,7 +29,8 @@ inline constexpr const char* kDefaultPrinterLabel = "(Default printer)";
 class PrintOut : public FileActivity {
 public:
     PrintOut();
-    std::string ActivityType() const override { return "PrintOut"; }
+    static constexpr ActivityKind kKind = ActivityKind::PrintOut;
+    ActivityKind Kind() const noexcept override { return kKind; }
 
     const std::string& Printer() const noexcept { return printer_; }
     void SetPrinter(std::string value) { printer_ = std::move(value); }

@@ -60,7 +60,7 @@ std::shared_ptr<Process> Process::Create() {
 
 Process::~Process() { Dispose(); }
 
-std::shared_ptr<Datasource> Process::MainDataSource() {
+std::shared_ptr<Datasource> Process::MainDataSource() const {
     if (!mainDataSource_) mainDataSource_ = datasources_ ? datasources_->GetMainDataSource(mainDataSourceName_) : nullptr;
     return mainDataSource_;
 }
@@ -71,17 +71,17 @@ void Process::SetMainDataSource(const std::shared_ptr<Datasource>& datasource) {
     mainDataSourceName_ = datasource ? datasource->name() : std::string();
 }
 
-const std::string& Process::LogDatasourceName() {
+const std::string& Process::LogDatasourceName() const {
     if (logDatasourceName_.empty()) logDatasourceName_ = mainDataSourceName_;
     return logDatasourceName_;
 }
 
-std::shared_ptr<flowloom::Groups> Process::Groups() {
+std::shared_ptr<flowloom::Groups> Process::Groups() const {
     if (!groups_) groups_ = std::make_shared<flowloom::Groups>();
     return groups_;
 }
 
-std::shared_ptr<flowloom::FieldValues> Process::FieldValues() {
+std::shared_ptr<flowloom::FieldValues> Process::FieldValues() const {
     if (!fieldValues_) fieldValues_ = std::make_shared<flowloom::FieldValues>();
     return fieldValues_;
 }
@@ -113,21 +113,20 @@ void Process::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Proc
     // Children are read in a fixed order whatever their order in the file:
     // activities need the documents, a main datasource needs the datasources.
     if (pugi::xml_node child = node.child("Datasources")) {
-        try {
+        Guarded("Process", "LoadElement", [&] {
             datasources_ = std::make_shared<flowloom::Datasources>();
             datasources_->LoadElement(child, self);
-        } catch (...) {
-            ReportPendingError("Process", "LoadElement");
-        }
+        });
     }
     if (pugi::xml_node child = node.child("Documents")) {
         documents_ = std::make_shared<flowloom::Documents>();
         documents_->LoadElement(child);
     }
     if (pugi::xml_node child = node.child("Activities")) {
-        // The new collection is not told its process: the activities get it
-        // from their own reader, and later additions from their caller.
+        // Every activity of a process's collection knows the process, also
+        // those added after loading.
         activities_ = std::make_shared<flowloom::Activities>();
+        activities_->SetProcess(self);
         activities_->LoadElement(child, self);
     }
     if (pugi::xml_node child = node.child("Groups")) ReadGroups(child);

@@ -47,7 +47,7 @@ public:
     const std::string& MainDataSourceName() const noexcept { return mainDataSourceName_; }
     void SetMainDataSourceName(std::string name) { mainDataSourceName_ = std::move(name); }
     // Fills the cache from Datasources on first read.
-    std::shared_ptr<Datasource> MainDataSource();
+    std::shared_ptr<Datasource> MainDataSource() const;
     // Registers the datasource, caches it and takes its name.
     void SetMainDataSource(const std::shared_ptr<Datasource>& datasource);
 
@@ -59,7 +59,7 @@ public:
     void SetOnErrorNotifyUser(bool value) { onErrorNotifyUser_ = value; }
 
     // Falls back on MainDataSourceName on first read and keeps it.
-    const std::string& LogDatasourceName();
+    const std::string& LogDatasourceName() const;
     void SetLogDatasourceName(std::string name) { logDatasourceName_ = std::move(name); }
 
     void SetShowProgressBar(bool value) { showProgressBar_ = value; }
@@ -70,9 +70,9 @@ public:
     std::shared_ptr<flowloom::Datasources> Datasources() const { return datasources_; }
     std::shared_ptr<flowloom::Documents> Documents() const { return documents_; }
     // Created on first read.
-    std::shared_ptr<flowloom::Groups> Groups();
+    std::shared_ptr<flowloom::Groups> Groups() const;
     bool HasGroups() const noexcept { return groups_ != nullptr; }
-    std::shared_ptr<flowloom::FieldValues> FieldValues();
+    std::shared_ptr<flowloom::FieldValues> FieldValues() const;
     void SetFieldValues(std::shared_ptr<flowloom::FieldValues> values) { fieldValues_ = std::move(values); }
     bool HasFieldValues() const noexcept { return fieldValues_ != nullptr; }
 
@@ -105,18 +105,18 @@ private:
     std::string name_;
     std::weak_ptr<Processes> parent_;
     std::string mainDataSourceName_;
-    std::shared_ptr<Datasource> mainDataSource_;
+    mutable std::shared_ptr<Datasource> mainDataSource_;  // cached on first read
     std::int32_t processRecords_ = 0;
     bool abortOnError_ = DefaultErrorSetting;
     bool onErrorNotifyUser_ = DefaultErrorSetting;
-    std::string logDatasourceName_;
+    mutable std::string logDatasourceName_;  // falls back on the main datasource's name
     bool showProgressBar_ = true;
     std::int32_t confirmIfMoreThan_ = 100;
     std::shared_ptr<flowloom::Activities> activities_;
     std::shared_ptr<flowloom::Datasources> datasources_;
     std::shared_ptr<flowloom::Documents> documents_;
-    std::shared_ptr<flowloom::Groups> groups_;
-    std::shared_ptr<flowloom::FieldValues> fieldValues_;
+    mutable std::shared_ptr<flowloom::Groups> groups_;  // created on first read
+    mutable std::shared_ptr<flowloom::FieldValues> fieldValues_;  // created on first read
     std::vector<std::shared_ptr<void>> invokedAppDocuments_;
     std::unique_ptr<KeyedCollection<Document>> addedDocuments_;
 };

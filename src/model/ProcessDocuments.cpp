@@ -4,14 +4,14 @@
 #include "support/TextCompare.h"
 #include "model/Activities.h"
 #include "model/Documents.h"
-#include "model/MailMerge.h"
+#include "model/VisitActivity.h"
 
 namespace flowloom {
 
 namespace {
 
-std::int32_t KindOf(Activity& producer, bool wide) {
-    if (auto* mailMerge = dynamic_cast<MailMerge*>(&producer)) {
+std::int32_t KindOf(const Activity& producer, bool wide) {
+    if (const auto* mailMerge = ActivityAs<MailMerge>(&producer)) {
         const std::string& application = mailMerge->InvokedApplication();
         if (EqualsNoCase(application, "Microsoft Word")) return dockind::Word;
         if (EqualsNoCase(application, "Microsoft Excel")) return dockind::Excel;
@@ -19,7 +19,7 @@ std::int32_t KindOf(Activity& producer, bool wide) {
         if (wide && EqualsNoCase(application, "Text")) return dockind::Text;
         return dockind::Other;
     }
-    if (wide && EqualsNoCase(producer.ActivityType(), "SendMail")) return dockind::MailBody;
+    if (wide && producer.Kind() == ActivityKind::SendMail) return dockind::MailBody;
     return dockind::Other;
 }
 
@@ -43,7 +43,7 @@ std::pair<std::int32_t, std::shared_ptr<Activity>> Process::ActivityForDocument(
 bool Process::HasPrecedingOrSucceedingDocument() const {
     if (!activities_ || !documents_) return false;
     for (const auto& activity : *activities_) {
-        auto* mailMerge = dynamic_cast<MailMerge*>(activity.get());
+        const auto* mailMerge = ActivityAs<MailMerge>(activity.get());
         if (!mailMerge) continue;
         if (!mailMerge->PrecededBy().empty() && documents_->Contains(mailMerge->PrecededBy())) return true;
         if (!mailMerge->SucceededBy().empty() && documents_->Contains(mailMerge->SucceededBy())) return true;

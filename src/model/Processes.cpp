@@ -31,7 +31,7 @@ Processes::~Processes() {
     if (!disposed_) Dispose();
 }
 
-std::shared_ptr<flowloom::Groups> Processes::Groups() {
+std::shared_ptr<flowloom::Groups> Processes::Groups() const {
     if (!groups_) groups_ = std::make_shared<flowloom::Groups>();
     return groups_;
 }
@@ -187,28 +187,23 @@ std::string Processes::XML() {
     }
 }
 
-void Processes::Add(const std::shared_ptr<Process>& process, const CollectionPosition& before,
+bool Processes::Add(const std::shared_ptr<Process>& process, const CollectionPosition& before,
                     const CollectionPosition& after) {
-    if (!process) return;
-    try {
-        if (!process->name().empty() && processes_.Contains(process->name())) {
-            MsgBox("Process " + process->name() + " already exists.", msgbox::Exclamation);
-            return;
-        }
+    if (!process) return false;
+    if (!process->name().empty() && processes_.Contains(process->name())) {
+        MsgBox("Process " + process->name() + " already exists.", msgbox::Exclamation);
+        return false;
+    }
+    return Guarded("Processes", "Add", [&] {
         processes_.Add(process, process->name(), before, after);
         process->SetParent(shared_from_this());
-    } catch (...) {
-        ReportPendingError("Processes", "Add");
-    }
+    });
 }
 
 std::shared_ptr<Process> Processes::Item(const CollectionPosition& position) const {
-    try {
-        return processes_.ItemAt(position);
-    } catch (...) {
-        ReportPendingError("Processes", "Item");
-        return nullptr;
-    }
+    std::shared_ptr<Process> process;
+    Guarded("Processes", "Item", [&] { process = processes_.ItemAt(position); });
+    return process;
 }
 
 std::int32_t Processes::Count() const {
@@ -216,7 +211,7 @@ std::int32_t Processes::Count() const {
     return processes_.Count();
 }
 
-void Processes::Remove(const CollectionPosition& position) { processes_.RemoveAt(position); }
+bool Processes::Remove(const CollectionPosition& position) { return processes_.TryRemoveAt(position); }
 
 std::shared_ptr<Database> Processes::GetDatabaseByName(const std::string& name) const {
     if (!databases_) return nullptr;

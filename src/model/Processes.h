@@ -30,7 +30,7 @@ public:
 
     std::shared_ptr<flowloom::Databases> Databases() const { return databases_; }
     void SetDatabases(std::shared_ptr<flowloom::Databases> databases) { databases_ = std::move(databases); }
-    std::shared_ptr<flowloom::Groups> Groups();  // created on first read
+    std::shared_ptr<flowloom::Groups> Groups() const;  // created on first read
     void SetGroups(std::shared_ptr<flowloom::Groups> groups) { groups_ = std::move(groups); }
     bool HasGroups() const noexcept { return groups_ != nullptr; }
     std::shared_ptr<flowloom::Options> Options() const { return options_; }
@@ -55,14 +55,15 @@ public:
     std::string XML();
 
     // Adds under the process's name; a name that exists gives the message
-    // "Process <name> already exists." and nothing is added.
-    void Add(const std::shared_ptr<Process>& process, const CollectionPosition& before = {},
+    // "Process <name> already exists." and nothing is added. Whether it was added.
+    bool Add(const std::shared_ptr<Process>& process, const CollectionPosition& before = {},
              const CollectionPosition& after = {});
     // Unknown index or name is reported; the result is then empty.
     std::shared_ptr<Process> Item(const CollectionPosition& position) const;
     // Error 91 once disposed.
     std::int32_t Count() const;
-    void Remove(const CollectionPosition& position);
+    // False when the position names no process.
+    bool Remove(const CollectionPosition& position);
     std::vector<std::shared_ptr<Process>> Snapshot() const { return processes_.Snapshot(); }
     auto begin() const { return processes_.begin(); }
     auto end() const { return processes_.end(); }
@@ -92,7 +93,7 @@ private:
     std::size_t lastXmlSize_ = 0;  // a size hint for the next XML text
     std::shared_ptr<flowloom::Databases> databases_;
     std::shared_ptr<flowloom::Options> options_;
-    std::shared_ptr<flowloom::Groups> groups_;
+    mutable std::shared_ptr<flowloom::Groups> groups_;
     bool disposed_ = false;
     std::int32_t version_ = 0;
 };

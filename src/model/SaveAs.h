@@ -26,7 +26,8 @@ extern const std::array<const char*, static_cast<std::size_t>(SaveAsArg::Count)>
 class SaveAs : public FileActivity {
 public:
     SaveAs();
-    std::string ActivityType() const override { return "SaveAs"; }
+    static constexpr ActivityKind kKind = ActivityKind::SaveAs;
+    ActivityKind Kind() const noexcept override { return kKind; }
 
     // 0 "Yes", 1 "Confirm", 2 "No"; the file holds it only once it was set.
     std::int32_t OverwriteExistingFile() const noexcept { return overwrite_.Value(); }

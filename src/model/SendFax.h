@@ -12,7 +12,8 @@ class Document;
 // Sends a document produced earlier by fax.
 class SendFax : public Activity {
 public:
-    std::string ActivityType() const override { return "SendFax"; }
+    static constexpr ActivityKind kKind = ActivityKind::SendFax;
+    ActivityKind Kind() const noexcept override { return kKind; }
 
     std::shared_ptr<Document> InputDocument();  // error 30050 when it does not resolve
     void SetInputDocument(std::shared_ptr<Document> document) { inputDocument_ = std::move(document); }

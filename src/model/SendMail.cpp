@@ -26,7 +26,7 @@ std::shared_ptr<List> ListOf(const std::string& text) {
 
 SendMail::SendMail() : FileActivity(0, true), attachments_(std::make_shared<flowloom::Attachments>()) {}
 
-const std::string& SendMail::DatasourceName() {
+const std::string& SendMail::DatasourceName() const {
     if (datasourceName_.empty())
         if (auto process = ParentProcess()) datasourceName_ = process->MainDataSourceName();
     return datasourceName_;
@@ -37,11 +37,9 @@ std::string SendMail::RecipientsCCText() const { return RecipientsText(recipient
 std::string SendMail::RecipientsBCCText() const { return RecipientsText(recipientsBCC_, bcc_); }
 
 void SendMail::AddAttachment(const std::string& name) {
-    try {
+    Guarded("SendMail", "AddAttachment", [&] {
         attachments_->Add(std::make_shared<CDictionary>(CDictionary{name, {}}), name);
-    } catch (...) {
-        ReportPendingError("SendMail", "AddAttachment");
-    }
+    });
 }
 
 void SendMail::Dispose() {

@@ -18,10 +18,11 @@ using Attachments = KeyedCollection<CDictionary>;
 class SendMail : public FileActivity {
 public:
     SendMail();
-    std::string ActivityType() const override { return "SendMail"; }
+    static constexpr ActivityKind kKind = ActivityKind::SendMail;
+    ActivityKind Kind() const noexcept override { return kKind; }
 
     // Falls back on the process's main datasource and keeps it.
-    const std::string& DatasourceName();
+    const std::string& DatasourceName() const;
     void SetDatasourceName(std::string value) { datasourceName_ = std::move(value); }
     // 0 Default, 1 Outlook, 2 CDO, 3 Groupwise.
     std::int32_t MailApplication() const noexcept { return mailApplication_; }
@@ -61,7 +62,7 @@ public:
     void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
 
 private:
-    std::string datasourceName_;
+    mutable std::string datasourceName_;  // falls back on the main datasource
     std::int32_t mailApplication_ = 0;
     std::int32_t sendMethod_ = 0;
     std::shared_ptr<List> to_, cc_, bcc_;

@@ -30,13 +30,11 @@ std::string BaseName(const char* name) {
 
 void OptionItem::LoadElement(const pugi::xml_node& node) {
     for (const pugi::xml_attribute& a : node.attributes()) {
-        try {
+        Guarded("OptionItem", "LoadElement", [&] {
             Attributes->Add(std::make_shared<CDictionary>(CDictionary{a.name(), std::string(a.value())}), a.name());
             // Details of the value, if the element has a child of its name.
             if (pugi::xml_node details = node.child(a.name())) Properties->Add(AttributesOf(details), a.name());
-        } catch (...) {
-            ReportPendingError("OptionItem", "LoadElement");
-        }
+        });
     }
 }
 
@@ -48,14 +46,12 @@ void Options::Add(const std::shared_ptr<OptionItem>& item, const std::string& ke
 void Options::LoadElement(const pugi::xml_node& node) {
     for (const pugi::xml_node& child : node.children()) {
         if (child.type() != pugi::node_element) continue;
-        try {
+        Guarded("Options", "LoadElement", [&] {
             auto item = std::make_shared<OptionItem>();
             item->name = BaseName(child.name());
             item->LoadElement(child);
             Add(item, item->name);
-        } catch (...) {
-            ReportPendingError("Options", "LoadElement");
-        }
+        });
     }
 }
 

@@ -57,17 +57,15 @@ std::string CFSO::GetFileVersion(const std::string&) const { return {}; }
 std::string CFSO::GetParentFolderName(const std::string& path) const { return pathtext::GetParentFolderName(path); }
 
 void CFSO::CreateFolder(const std::string& folder) {
-    try {
+    Guarded("CFSO", "CreateFolder", [&] {
         std::error_code ec;
         if (fs::create_directory(folder, ec)) return;
         RaiseFileError(ec ? ec : std::make_error_code(std::errc::file_exists), true);
-    } catch (...) {
-        ReportPendingError("CFSO", "CreateFolder");
-    }
+    });
 }
 
 bool CFSO::CreateNewFolder(const std::string& path, std::string& newName) {
-    try {
+    return GuardedOr("CFSO", "CreateNewFolder", false, [&] {
         if (!FolderExists(path)) RaiseStandardError(vberr::PathNotFound);
         std::string name = "New folder";
         for (int n = 2; FileOrFolderExists(pathtext::BuildPath(path, name)); ++n)
@@ -76,10 +74,7 @@ bool CFSO::CreateNewFolder(const std::string& path, std::string& newName) {
         if (!FolderExists(pathtext::BuildPath(path, name))) return false;  // already reported
         newName = name;
         return true;
-    } catch (...) {
-        ReportPendingError("CFSO", "CreateNewFolder");
-        return false;
-    }
+    });
 }
 
 bool CFSO::CreateFolders(const std::string& folderName) {

@@ -72,7 +72,7 @@ bool CFSO::RenameFolder(const std::string& oldFullName, const std::string& newNa
 }
 
 bool CFSO::Rename(Kind kind, const std::string& oldFullName, const std::string& newName, const char* procedure) {
-    try {
+    return GuardedOr("CFSO", procedure, false, [&] {
         const std::string oldName = pathtext::GetFileName(oldFullName);
         if (newName == oldName) return true;
         const std::string target = pathtext::BuildPath(pathtext::GetParentFolderName(oldFullName), newName);
@@ -85,10 +85,7 @@ bool CFSO::Rename(Kind kind, const std::string& oldFullName, const std::string& 
         RequireSource(*this, oldFullName, kind == Kind::Folder);
         MovePath(oldFullName, target);
         return true;
-    } catch (...) {
-        ReportPendingError("CFSO", procedure);
-        return false;
-    }
+    });
 }
 
 bool CFSO::MoveFile(const std::string& oldFullName, const std::string& targetPath, std::string& newName) {
@@ -109,7 +106,7 @@ bool CFSO::CopyFolder(const std::string& oldFullName, const std::string& targetP
 
 bool CFSO::Transfer(Kind kind, bool copy, const std::string& oldFullName, const std::string& targetPath,
                     std::string& newName, const char* procedure) {
-    try {
+    return GuardedOr("CFSO", procedure, false, [&] {
         const bool folder = kind == Kind::Folder;
         const std::string sourceFolder = pathtext::GetParentFolderName(oldFullName);
         const std::string targetFolder = targetPath.empty() ? sourceFolder : targetPath;
@@ -130,10 +127,7 @@ bool CFSO::Transfer(Kind kind, bool copy, const std::string& oldFullName, const 
         else MovePath(oldFullName, target);
         newName = name;
         return true;
-    } catch (...) {
-        ReportPendingError("CFSO", procedure);
-        return false;
-    }
+    });
 }
 
 bool CFSO::DeleteFile(const std::string& path, bool useRecycleBin, bool askConfirmation, bool silentOnError) {

@@ -5,18 +5,12 @@
 #include "app/CDictionary.h"
 #include "app/KeyedCollection.h"
 #include "model/Activities.h"
-#include "model/AddRecord.h"
-#include "model/Convert.h"
 #include "model/Datasources.h"
 #include "model/Documents.h"
 #include "model/List.h"
-#include "model/MailMerge.h"
-#include "model/PrintOut.h"
 #include "model/Process.h"
 #include "model/Processes.h"
-#include "model/SaveAs.h"
-#include "model/SendFax.h"
-#include "model/SendMail.h"
+#include "model/VisitActivity.h"
 #include "model/OptionPlaceholders.h"
 #include "support/FileHelpers.h"
 #include "support/Printers.h"
@@ -24,18 +18,19 @@
 
 namespace flowloom {
 
-using verify_detail::Guarded;
+using verify_detail::GuardedRule;
 
 namespace {
 
 // InputDocumentName of the types that have one, else "".
-std::string InputDocumentNameOf(Activity& activity) {
-    if (auto* file = dynamic_cast<FileActivity*>(&activity)) return file->InputDocumentName();
-    if (auto* fax = dynamic_cast<SendFax*>(&activity)) return fax->InputDocumentName();
-    return {};
+std::string InputDocumentNameOf(const Activity& activity) {
+    return VisitActivity(activity, []<typename T>(const T& a) -> std::string {
+        if constexpr (std::is_base_of_v<FileActivity, T> || std::is_same_v<T, SendFax>) return a.InputDocumentName();
+        return {};
+    });
 }
 
-std::string OutputDocumentNameOf(Activity& activity) { return activity.ProducedDocumentName().value_or(""); }
+std::string OutputDocumentNameOf(const Activity& activity) { return activity.ProducedDocumentName().value_or(""); }
 
 std::string MergeLabel(int ordinal) { return "MailMerge(" + std::to_string(ordinal) + ")"; }
 
@@ -44,7 +39,7 @@ KeyedCollection<CDictionary> MergeOutputs(const Activities& activities) {
     KeyedCollection<CDictionary> outputs;
     int ordinal = 0;
     for (const auto& activity : activities) {
-        auto* merge = dynamic_cast<MailMerge*>(activity.get());
+        const auto* merge = ActivityAs<MailMerge>(activity.get());
         if (!merge) continue;
         ++ordinal;
         const std::string& name = merge->OutputDocumentName();
@@ -62,7 +57,7 @@ void ProcessVerifier::VerifyActivities() {
     KeyedCollection<std::string> createdDocuments;
     int ordinal = 0;
     for (const auto& activity : activities->Snapshot()) {
-        Guarded("VerifyActivities", [&] {
+        GuardedRule("VerifyActivities", [&] {
             const std::string type = activity->ActivityType();
             const std::string input = InputDocumentNameOf(*activity);
             if (!input.empty() && type != "SendMail" && !createdDocuments.Contains(input))
@@ -71,9 +66,9 @@ void ProcessVerifier::VerifyActivities() {
             if (!output.empty() && !createdDocuments.TryAdd(std::make_shared<std::string>(output), output))
                 ReportVerifyError(37, severity::Error, {output});
 
-            if (auto* merge = dynamic_cast<MailMerge*>(activity.get())) {
+            if (const auto* merge = ActivityAs<MailMerge>(activity.get())) {
                 ++ordinal;
-                Guarded("VerifyMailMerge", [&] { VerifyMailMerge(*merge); });
+                GuardedRule("VerifyMailMerge", [&] { VerifyMailMerge(*merge); });
                 // Both neighbours must have been made by now: a SucceededBy
                 // document made later is reported as well.
                 const std::pair<const std::string*, int> sequence[] = {{&merge->PrecededBy(), 35},
@@ -85,30 +80,32 @@ void ProcessVerifier::VerifyActivities() {
                     else
                         ReportVerifyError(number, severity::Error, {*name});
                 }
-            } else if (auto* saveAs = dynamic_cast<SaveAs*>(activity.get())) {
-                Guarded("VerifySaveAs", [&] { VerifySaveAs(*saveAs); });
-            } else if (auto* printOut = dynamic_cast<PrintOut*>(activity.get())) {
-                Guarded("VerifyPrintOut", [&] { VerifyPrintOut(*printOut); });
-            } else if (auto* sendMail = dynamic_cast<SendMail*>(activity.get())) {
-                Guarded("VerifySendMail", [&] { VerifySendMail(*sendMail); });
-            } else if (auto* sendFax = dynamic_cast<SendFax*>(activity.get())) {
-                Guarded("VerifySendFax", [&] { VerifySendFax(*sendFax); });
-            } else if (auto* convert = dynamic_cast<Convert*>(activity.get())) {
-                Guarded("VerifyConvert", [&] { VerifyConvert(*convert); });
-            } else if (auto* addRecord = dynamic_cast<AddRecord*>(activity.get())) {
-                Guarded("VerifyAddRecord", [&] { VerifyAddRecord(*addRecord); });
+            } else {
+                VerifyActivityRule(*activity);
             }
         });
     }
 }
 
-void ProcessVerifier::VerifyMailMerge(MailMerge& activity) {
+void ProcessVerifier::VerifyActivityRule(const Activity& activity) {
+    VisitActivity(activity, Overloaded{
+        [this](const MailMerge& a) { GuardedRule("VerifyMailMerge", [&] { VerifyMailMerge(a); }); },
+        [this](const SaveAs& a) { GuardedRule("VerifySaveAs", [&] { VerifySaveAs(a); }); },
+        [this](const PrintOut& a) { GuardedRule("VerifyPrintOut", [&] { VerifyPrintOut(a); }); },
+        [this](const Convert& a) { GuardedRule("VerifyConvert", [&] { VerifyConvert(a); }); },
+        [this](const SendMail& a) { GuardedRule("VerifySendMail", [&] { VerifySendMail(a); }); },
+        [this](const SendFax& a) { GuardedRule("VerifySendFax", [&] { VerifySendFax(a); }); },
+        [this](const AddRecord& a) { GuardedRule("VerifyAddRecord", [&] { VerifyAddRecord(a); }); },
+    });
+}
+
+void ProcessVerifier::VerifyMailMerge(const MailMerge& activity) {
     if (activity.Template().empty()) ReportVerifyError(16, severity::Error);
     const std::string& datasource = activity.DatasourceName();
     if (!datasource.empty() && !InDatasources(datasource)) ReportVerifyError(18, severity::Error, {datasource});
 }
 
-void ProcessVerifier::VerifySaveAs(SaveAs& activity) {
+void ProcessVerifier::VerifySaveAs(const SaveAs& activity) {
     const std::string& input = activity.InputDocumentName();
     if (input.empty()) {
         ReportVerifyError(19, severity::Error);
@@ -117,7 +114,7 @@ void ProcessVerifier::VerifySaveAs(SaveAs& activity) {
     } else {
         // A mail body can be saved only from Outlook.
         const auto [kind, producer] = process_->ActivityForDocument(input, true);
-        const auto* mail = dynamic_cast<const SendMail*>(producer.get());
+        const auto* mail = ActivityAs<SendMail>(producer.get());
         if (kind == dockind::MailBody && mail && mail->MailApplication() != 1)
             ReportVerifyError(50, severity::Error, {input});
     }
@@ -125,13 +122,13 @@ void ProcessVerifier::VerifySaveAs(SaveAs& activity) {
     if (activity.File().empty()) ReportVerifyError(22, severity::Error);
 }
 
-void ProcessVerifier::VerifyPrintOut(PrintOut& activity) {
+void ProcessVerifier::VerifyPrintOut(const PrintOut& activity) {
     const std::string& input = activity.InputDocumentName();
     if (input.empty()) ReportVerifyError(24, severity::Error);
     else if (!InDocuments(input)) ReportVerifyError(25, severity::Error, {input});
 }
 
-void ProcessVerifier::VerifySendMail(SendMail& activity) {
+void ProcessVerifier::VerifySendMail(const SendMail& activity) {
     const std::string& input = activity.InputDocumentName();
     if (!input.empty() && !InDocuments(input)) ReportVerifyError(26, severity::Error, {input});
     const std::string& output = activity.OutputDocumentName();
@@ -142,14 +139,14 @@ void ProcessVerifier::VerifySendMail(SendMail& activity) {
     if (activity.MailApplication() == 2 && activity.SendMethod() == 1) ReportVerifyError(30, severity::Error);
 }
 
-void ProcessVerifier::VerifySendFax(SendFax& activity) {
+void ProcessVerifier::VerifySendFax(const SendFax& activity) {
     const std::string& input = activity.InputDocumentName();
     if (input.empty()) ReportVerifyError(31, severity::Error);
     else if (!InDocuments(input)) ReportVerifyError(32, severity::Error, {input});
     if (activity.Address().empty()) ReportVerifyError(33, severity::Error);
 }
 
-void ProcessVerifier::VerifyAddRecord(AddRecord& activity) {
+void ProcessVerifier::VerifyAddRecord(const AddRecord& activity) {
     const std::string& datasource = activity.DatasourceName();
     if (!datasource.empty() && !InDatasources(datasource)) ReportVerifyError(53, severity::Error, {datasource});
     if (!activity.Database().empty() && !DatabaseExists(activity.Database()))
@@ -158,7 +155,7 @@ void ProcessVerifier::VerifyAddRecord(AddRecord& activity) {
     if (!activity.HasFieldValues() || activity.FieldValues()->Count() == 0) ReportVerifyError(57, severity::Error);
 }
 
-void ProcessVerifier::VerifyConvert(Convert& activity) {
+void ProcessVerifier::VerifyConvert(const Convert& activity) {
     const std::string& input = activity.InputDocumentName();
     if (input.empty()) ReportVerifyError(38, severity::Error);
     else if (!InDocuments(input)) ReportVerifyError(39, severity::Error, {input});
@@ -170,7 +167,7 @@ void ProcessVerifier::VerifyConvert(Convert& activity) {
 
 // The printer and the converter come from the file's options: they are
 // settings of the machine, not of the activity.
-void ProcessVerifier::VerifyPostscriptConversion(Convert& activity) {
+void ProcessVerifier::VerifyPostscriptConversion(const Convert& activity) {
     const auto parent = process_->Parent();
     const Options* options = parent ? parent->Options().get() : nullptr;
     const std::string printer = OptionValue(options, "ConvertingPostscriptToPDF", "PostscriptPrinter");

@@ -18,9 +18,9 @@
 
 namespace flowloom {
 
-using verify_detail::Guarded;
+using verify_detail::GuardedRule;
 
-bool ProcessVerifier::Run(const std::shared_ptr<Process>& process) {
+bool ProcessVerifier::Run(const std::shared_ptr<const Process>& process) {
     process_ = process;
     findings_.clear();
     try {
@@ -86,11 +86,11 @@ void ProcessVerifier::VerifyDatabases() {
     int index = 0;
     for (const auto& database : *parent->Databases()) {
         ++index;
-        Guarded("VerifyDatabase", [&] { VerifyDatabase(*database, index); });
+        GuardedRule("VerifyDatabase", [&] { VerifyDatabase(*database, index); });
     }
 }
 
-void ProcessVerifier::VerifyDatabase(Database& database, int index) {
+void ProcessVerifier::VerifyDatabase(const Database& database, int index) {
     if (database.name.empty()) {
         ReportVerifyError(11, severity::Warning, {std::to_string(index)});
         return;
@@ -108,11 +108,11 @@ void ProcessVerifier::VerifyDatasources() {
     int index = 0;
     for (const auto& datasource : *process_->Datasources()) {
         ++index;
-        Guarded("VerifyDatasource", [&] { VerifyDatasource(*datasource, index); });
+        GuardedRule("VerifyDatasource", [&] { VerifyDatasource(*datasource, index); });
     }
 }
 
-void ProcessVerifier::VerifyDatasource(Datasource& datasource, int index) {
+void ProcessVerifier::VerifyDatasource(const Datasource& datasource, int index) {
     const std::string number = std::to_string(index);
     if (datasource.name().empty()) ReportVerifyError(5, severity::Warning, {number});
     if (!datasource.Database.empty() && !DatabaseExists(datasource.Database))
@@ -141,14 +141,11 @@ std::string VerifyReportText(const std::vector<VerifyFinding>& findings) {
     return report;
 }
 
-bool Verify(const std::shared_ptr<Process>& process, bool showResult) {
+bool Verify(const std::shared_ptr<const Process>& process, bool showResult) {
     ProcessVerifier verifier(showResult);
-    try {
-        if (!verifier.Run(process)) return false;  // stopped at an error, which was shown
-    } catch (...) {
-        ReportPendingError("modVerify", "Verify");
-        return false;
-    }
+    bool ranThrough = false;
+    if (!Guarded("modVerify", "Verify", [&] { ranThrough = verifier.Run(process); })) return false;
+    if (!ranThrough) return false;  // stopped at an error, which was shown
     if (verifier.HasVerifyErrors()) {
         CurrentPrompts().ShowText(VerifyReportText(verifier.Findings()));
         return false;

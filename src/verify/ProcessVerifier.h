@@ -38,7 +38,7 @@ public:
 
     // Runs every rule in order. False when the stop-at-first-error mode
     // stopped at an error; the findings gathered so far stay.
-    bool Run(const std::shared_ptr<Process>& process);
+    bool Run(const std::shared_ptr<const Process>& process);
 
     const std::vector<VerifyFinding>& Findings() const noexcept { return findings_; }
     bool HasVerifyErrors() const noexcept { return !findings_.empty(); }
@@ -53,26 +53,27 @@ private:
     void VerifyMainDatasource();
     void VerifyActivityCount();
     void VerifyDatabases();
-    void VerifyDatabase(Database& database, int index);
+    void VerifyDatabase(const Database& database, int index);
     void VerifyDatasources();
-    void VerifyDatasource(Datasource& datasource, int index);
+    void VerifyDatasource(const Datasource& datasource, int index);
     bool DatabaseExists(const std::string& name) const;
     bool InDocuments(const std::string& name) const;
     bool InDatasources(const std::string& name) const;
 
     // The activity rules.
     void VerifyActivities();
-    void VerifyMailMerge(MailMerge& activity);
-    void VerifySaveAs(SaveAs& activity);
-    void VerifyPrintOut(PrintOut& activity);
-    void VerifySendMail(SendMail& activity);
-    void VerifySendFax(SendFax& activity);
-    void VerifyAddRecord(AddRecord& activity);
-    void VerifyConvert(Convert& activity);
-    void VerifyPostscriptConversion(Convert& activity);
+    void VerifyActivityRule(const Activity& activity);
+    void VerifyMailMerge(const MailMerge& activity);
+    void VerifySaveAs(const SaveAs& activity);
+    void VerifyPrintOut(const PrintOut& activity);
+    void VerifySendMail(const SendMail& activity);
+    void VerifySendFax(const SendFax& activity);
+    void VerifyAddRecord(const AddRecord& activity);
+    void VerifyConvert(const Convert& activity);
+    void VerifyPostscriptConversion(const Convert& activity);
 
     bool gather_;
-    std::shared_ptr<Process> process_;
+    std::shared_ptr<const Process> process_;
     std::vector<VerifyFinding> findings_;
 };
 
@@ -83,6 +84,6 @@ std::string VerifyReportText(const std::vector<VerifyFinding>& findings);
 // Verifies a process as the Verify command does. Gathering (`showResult`):
 // the report goes to the text window, or, with nothing found, the box
 // "Everything is Ok". True when nothing was reported.
-bool Verify(const std::shared_ptr<Process>& process, bool showResult);
+bool Verify(const std::shared_ptr<const Process>& process, bool showResult);
 
 }  // namespace flowloom

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "support/ReportError.h"
-#include "support/VbError.h"
 #include "verify/ProcessVerifier.h"
 
 #include <string_view>
@@ -12,15 +11,8 @@ namespace flowloom::verify_detail {
 // and the verification goes on with the next rule; only the stop of the
 // stop-at-first-error mode passes through.
 template <typename Rule>
-void Guarded(std::string_view procedure, Rule&& rule) {
-    try {
-        rule();
-    } catch (const VbError& e) {
-        if (e.Number() == kVerifyStopped) throw;
-        ReportError(e, "modVerify", procedure);
-    } catch (...) {
-        ReportPendingError("modVerify", procedure);
-    }
+void GuardedRule(std::string_view procedure, Rule&& rule) {
+    GuardedPassing(kVerifyStopped, "modVerify", procedure, std::forward<Rule>(rule));
 }
 
 }  // namespace flowloom::verify_detail

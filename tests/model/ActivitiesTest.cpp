@@ -73,7 +73,7 @@ TEST_F(Activity_, KeysAreTypeNamesWithDigitsAndNewOnEachLoad) {
     EXPECT_GT(key.size(), 7u);
     EXPECT_LE(key.size(), 17u);
     EXPECT_NE(key, At<SendFax>(process, 2)->Key());
-    EXPECT_EQ(process->Activities()->TypeCount("sendfax"), 2);
+    EXPECT_EQ(process->Activities()->TypeCount(ActivityKind::SendFax), 2);
 }
 
 TEST_F(Activity_, UnknownElementRerunsThePreviousReaderAndFailsOnItsKey) {
@@ -201,15 +201,14 @@ TEST_F(Activity_, AddRecordFieldValuesKeepQuotesAndReportDuplicates) {
     EXPECT_EQ(EncloseInBrackets("[Done]"), "[Done]");
 }
 
-TEST_F(Activity_, AnActivityWithoutParentGetsOneWhileWriting) {
+TEST_F(Activity_, AnActivityAddedToALoadedProcessKnowsItsProcess) {
     auto process = Load("");
     auto sendMail = std::make_shared<SendMail>();
-    // The collection read from the file knows no process: adding gives none.
-    process->Activities()->Add(sendMail);
-    EXPECT_EQ(sendMail->ParentProcess(), nullptr);
-    EXPECT_NE(ProcessFragmentXml(*process).find("<SendMail/>"), std::string::npos);
+    EXPECT_TRUE(process->Activities()->Add(sendMail));
     EXPECT_EQ(sendMail->ParentProcess(), process);
     EXPECT_EQ(sendMail->DatasourceName(), "Main");
+    EXPECT_NE(ProcessFragmentXml(*process).find("<SendMail/>"), std::string::npos);
+    for (const auto& activity : *process->Activities()) EXPECT_EQ(activity->ParentProcess(), process);
 }
 
 TEST_F(Activity_, TheConstructorsCollectionGivesItsProcessToNewActivities) {

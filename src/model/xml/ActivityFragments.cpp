@@ -43,9 +43,9 @@ void WriteOtherDatasourceName(pugi::xml_node element, const std::string& name, c
 
 }  // namespace
 
-pugi::xml_node CProcessesXMLDoc::MailMergeFragment(MailMerge& activity, pugi::xml_node parent) {
+pugi::xml_node CProcessesXMLDoc::MailMergeFragment(const MailMerge& activity, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child("MailMerge");
-    try {
+    Guarded(kModule, "MailMergeFragment", [&] {
         xmlw::Text(element, "InvokedApplication", activity.InvokedApplication());
         xmlw::Text(element, "OutputDocumentName", activity.OutputDocumentName());
         xmlw::Text(element, "Template", activity.Template());
@@ -57,15 +57,13 @@ pugi::xml_node CProcessesXMLDoc::MailMergeFragment(MailMerge& activity, pugi::xm
         xmlw::Text(element, "PrecededBy", activity.PrecededBy());
         xmlw::Text(element, "SucceededBy", activity.SucceededBy());
         xmlw::Text(element, "Iteration", activity.Iteration());
-    } catch (...) {
-        ReportPendingError(kModule, "MailMergeFragment");
-    }
+    });
     return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::SaveAsFragment(SaveAs& activity, pugi::xml_node parent) {
+pugi::xml_node CProcessesXMLDoc::SaveAsFragment(const SaveAs& activity, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child("SaveAs");
-    try {
+    Guarded(kModule, "SaveAsFragment", [&] {
         WriteTarget(element, activity.Target());
         xmlw::Text(element, "InputDocumentName", activity.InputDocumentName());
         xmlw::Text(element, "OutputDocumentName", activity.OutputDocumentName());
@@ -85,15 +83,13 @@ pugi::xml_node CProcessesXMLDoc::SaveAsFragment(SaveAs& activity, pugi::xml_node
         if (activity.OverwriteSet())
             xmlw::Always(element, "OverwriteExistingFile", WordAt(kOverwriteWords, activity.OverwriteExistingFile()));
         xmlw::Text(element, "Description", activity.Description());
-    } catch (...) {
-        ReportPendingError(kModule, "SaveAsFragment");
-    }
+    });
     return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::PrintOutFragment(PrintOut& activity, pugi::xml_node parent) {
+pugi::xml_node CProcessesXMLDoc::PrintOutFragment(const PrintOut& activity, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child("PrintOut");
-    try {
+    Guarded(kModule, "PrintOutFragment", [&] {
         WriteTarget(element, activity.Target());
         xmlw::Text(element, "InputDocumentName", activity.InputDocumentName());
         xmlw::Text(element, "OutputDocumentName", activity.OutputDocumentName());
@@ -106,15 +102,13 @@ pugi::xml_node CProcessesXMLDoc::PrintOutFragment(PrintOut& activity, pugi::xml_
         if (kind == dockind::Word)
             WriteArguments(element, activity, kPrintOutArgNames, PrintOutArg::Background,
                            PrintOutArg::PrintZoomPaperHeight);
-    } catch (...) {
-        ReportPendingError(kModule, "PrintOutFragment");
-    }
+    });
     return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::ConvertFragment(Convert& activity, pugi::xml_node parent) {
+pugi::xml_node CProcessesXMLDoc::ConvertFragment(const Convert& activity, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child("Convert");
-    try {
+    Guarded(kModule, "ConvertFragment", [&] {
         xmlw::Text(element, "Description", activity.Description());
         xmlw::Text(element, "InputDocumentName", activity.InputDocumentName());
         xmlw::Text(element, "OutputDocumentName", activity.OutputDocumentName());
@@ -126,15 +120,13 @@ pugi::xml_node CProcessesXMLDoc::ConvertFragment(Convert& activity, pugi::xml_no
         xmlw::NonZero(element, "PDFConvertingMethod", activity.PDFConvertingMethod());
         xmlw::Text(element, "PostScriptPrinter", activity.PostscriptPrinter());
         xmlw::NonZero(element, "PostscriptToPDFConverter", activity.Postscript2PDFConverter());
-    } catch (...) {
-        ReportPendingError(kModule, "ConvertFragment");
-    }
+    });
     return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::SendMailFragment(SendMail& activity, pugi::xml_node parent) {
+pugi::xml_node CProcessesXMLDoc::SendMailFragment(const SendMail& activity, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child("SendMail");
-    try {
+    Guarded(kModule, "SendMailFragment", [&] {
         WriteTarget(element, activity.Target());
         xmlw::Text(element, "InputDocumentName", activity.InputDocumentName());
         xmlw::Text(element, "OutputDocumentName", activity.OutputDocumentName());
@@ -158,13 +150,11 @@ pugi::xml_node CProcessesXMLDoc::SendMailFragment(SendMail& activity, pugi::xml_
             for (const auto& attachment : *attachments)
                 xmlw::Always(container.append_child("Attachment"), "File", attachment->name);
         }
-    } catch (...) {
-        ReportPendingError(kModule, "SendMailFragment");
-    }
+    });
     return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::SendFaxFragment(SendFax& activity, pugi::xml_node parent) {
+pugi::xml_node CProcessesXMLDoc::SendFaxFragment(const SendFax& activity, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child("SendFax");
     xmlw::Text(element, "InputDocumentName", activity.InputDocumentName());
     xmlw::Text(element, "Subject", activity.Subject());
@@ -173,9 +163,9 @@ pugi::xml_node CProcessesXMLDoc::SendFaxFragment(SendFax& activity, pugi::xml_no
     return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::AddRecordFragment(AddRecord& activity, pugi::xml_node parent) {
+pugi::xml_node CProcessesXMLDoc::AddRecordFragment(const AddRecord& activity, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child("AddRecord");
-    try {
+    Guarded(kModule, "AddRecordFragment", [&] {
         xmlw::Text(element, "Database", activity.Database());
         xmlw::Text(element, "TableName", activity.Tablename());
         xmlw::Text(element, "Description", activity.Description());
@@ -184,9 +174,7 @@ pugi::xml_node CProcessesXMLDoc::AddRecordFragment(AddRecord& activity, pugi::xm
             for (const auto& fieldValue : *activity.FieldValues()) FieldValueFragment(*fieldValue, container);
         }
         WriteOtherDatasourceName(element, activity.DatasourceName(), activity);
-    } catch (...) {
-        ReportPendingError(kModule, "AddRecordFragment");
-    }
+    });
     return element;
 }
 

@@ -19,9 +19,9 @@ namespace {
 constexpr const char* kModule = "CProcessesXMLDoc";
 }
 
-std::unique_ptr<XmlDocument> CProcessesXMLDoc::Generate(Processes& processes) {
+std::unique_ptr<XmlDocument> CProcessesXMLDoc::Generate(const Processes& processes) {
     auto document = std::make_unique<XmlDocument>();
-    try {
+    Guarded(kModule, "Generate", [&] {
         document->AppendDeclaration();
         pugi::xml_node root = document->Native().append_child("Processes");
         if (processes.Version() > 0) xmlw::Always(root, "Version", std::to_string(processes.Version()));
@@ -38,15 +38,13 @@ std::unique_ptr<XmlDocument> CProcessesXMLDoc::Generate(Processes& processes) {
             pugi::xml_node element = root.append_child("Options");
             for (const auto& option : *options) OptionFragment(*option, element);
         }
-    } catch (...) {
-        ReportPendingError(kModule, "Generate");
-    }
+    });
     return document;
 }
 
-pugi::xml_node CProcessesXMLDoc::ProcessFragment(Process& process, pugi::xml_node parent) {
+pugi::xml_node CProcessesXMLDoc::ProcessFragment(const Process& process, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child("Process");
-    try {
+    Guarded(kModule, "ProcessFragment", [&] {
         xmlw::Text(element, "Name", process.name());
         xmlw::Text(element, "MainDatasourceName", process.MainDataSourceName());
         xmlw::Always(element, "ProcessRecords", WordAt(kProcessRecordsWords, process.ProcessRecords()));
@@ -56,12 +54,7 @@ pugi::xml_node CProcessesXMLDoc::ProcessFragment(Process& process, pugi::xml_nod
 
         if (auto activities = process.Activities(); activities && activities->Count() > 0) {
             pugi::xml_node container = element.append_child("Activities");
-            auto self = process.shared_from_this();
-            for (const auto& activity : *activities) {
-                // Derived values (a SendMail's datasource name) need the process.
-                if (!activity->ParentProcess()) activity->SetParentProcess(self);
-                ActivityFragment(*activity, container);
-            }
+            for (const auto& activity : *activities) ActivityFragment(*activity, container);
         }
         if (auto datasources = process.Datasources(); datasources && datasources->Count() > 0) {
             pugi::xml_node container = element.append_child("Datasources");
@@ -88,15 +81,13 @@ pugi::xml_node CProcessesXMLDoc::ProcessFragment(Process& process, pugi::xml_nod
         }
         // Read last: its fallback on the main datasource's name is kept by the read.
         xmlw::Text(element, "LogDatasourceName", process.LogDatasourceName());
-    } catch (...) {
-        ReportPendingError(kModule, "ProcessFragment");
-    }
+    });
     return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::DatasourceFragment(Datasource& datasource, pugi::xml_node parent) {
+pugi::xml_node CProcessesXMLDoc::DatasourceFragment(const Datasource& datasource, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child("Datasource");
-    try {
+    Guarded(kModule, "DatasourceFragment", [&] {
         xmlw::Text(element, "Name", datasource.name());
         xmlw::Text(element, "Type", datasource.Type_);
         xmlw::Text(element, "Database", datasource.Database);
@@ -104,9 +95,7 @@ pugi::xml_node CProcessesXMLDoc::DatasourceFragment(Datasource& datasource, pugi
         if (datasource.Records > 0) xmlw::Always(element, "Records", WordAt(kProcessRecordsWords, datasource.Records));
         xmlw::Text(element, "SubformFullName", datasource.SubFormFullName);
         xmlw::Text(element, "SaveXmlToFolder", datasource.SaveXmlToFolder);
-    } catch (...) {
-        ReportPendingError(kModule, "DatasourceFragment");
-    }
+    });
     return element;
 }
 
@@ -141,16 +130,14 @@ pugi::xml_node CProcessesXMLDoc::FieldValueFragment(const FieldValue& fieldValue
 
 pugi::xml_node CProcessesXMLDoc::OptionFragment(const OptionItem& option, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child(option.name.c_str());
-    try {
+    Guarded(kModule, "OptionFragment", [&] {
         if (option.Attributes)
             for (const auto& entry : *option.Attributes) xmlw::Always(element, entry->name.c_str(), entry->value.Text());
-    } catch (...) {
-        ReportPendingError(kModule, "OptionFragment");
-    }
+    });
     return element;
 }
 
-std::string ProcessFragmentXml(Process& process) {
+std::string ProcessFragmentXml(const Process& process) {
     pugi::xml_document document;
     CProcessesXMLDoc().ProcessFragment(process, document);
     return SerializeNode(document);

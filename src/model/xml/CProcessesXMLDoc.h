@@ -19,21 +19,21 @@ class OptionItem;
 // what it has.
 class CProcessesXMLDoc {
 public:
-    std::unique_ptr<XmlDocument> Generate(Processes& processes);
+    std::unique_ptr<XmlDocument> Generate(const Processes& processes);
 
-    pugi::xml_node ProcessFragment(Process& process, pugi::xml_node parent);
-    // Dispatch by ActivityType; nothing for an unknown type.
-    pugi::xml_node ActivityFragment(Activity& activity, pugi::xml_node parent);
+    pugi::xml_node ProcessFragment(const Process& process, pugi::xml_node parent);
+    // The fragment of the activity's own kind.
+    pugi::xml_node ActivityFragment(const Activity& activity, pugi::xml_node parent);
 
-    pugi::xml_node MailMergeFragment(MailMerge& activity, pugi::xml_node parent);
-    pugi::xml_node SaveAsFragment(SaveAs& activity, pugi::xml_node parent);
-    pugi::xml_node PrintOutFragment(PrintOut& activity, pugi::xml_node parent);
-    pugi::xml_node SendMailFragment(SendMail& activity, pugi::xml_node parent);
-    pugi::xml_node SendFaxFragment(SendFax& activity, pugi::xml_node parent);
-    pugi::xml_node AddRecordFragment(AddRecord& activity, pugi::xml_node parent);
-    pugi::xml_node ConvertFragment(Convert& activity, pugi::xml_node parent);
+    pugi::xml_node MailMergeFragment(const MailMerge& activity, pugi::xml_node parent);
+    pugi::xml_node SaveAsFragment(const SaveAs& activity, pugi::xml_node parent);
+    pugi::xml_node PrintOutFragment(const PrintOut& activity, pugi::xml_node parent);
+    pugi::xml_node SendMailFragment(const SendMail& activity, pugi::xml_node parent);
+    pugi::xml_node SendFaxFragment(const SendFax& activity, pugi::xml_node parent);
+    pugi::xml_node AddRecordFragment(const AddRecord& activity, pugi::xml_node parent);
+    pugi::xml_node ConvertFragment(const Convert& activity, pugi::xml_node parent);
 
-    pugi::xml_node DatasourceFragment(Datasource& datasource, pugi::xml_node parent);
+    pugi::xml_node DatasourceFragment(const Datasource& datasource, pugi::xml_node parent);
     pugi::xml_node DocumentFragment(const Document& document, pugi::xml_node parent);
     pugi::xml_node DatabaseFragment(const Database& database, pugi::xml_node parent);
     pugi::xml_node GroupFragment(const Group& group, pugi::xml_node parent);
@@ -42,6 +42,6 @@ public:
 };
 
 // The serialised Process element alone, as the designer copies a process.
-std::string ProcessFragmentXml(Process& process);
+std::string ProcessFragmentXml(const Process& process);
 
 }  // namespace flowloom

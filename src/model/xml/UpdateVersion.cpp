@@ -11,7 +11,7 @@
 #include "model/MailMerge.h"
 #include "model/Process.h"
 #include "model/Processes.h"
-#include "model/SendMail.h"
+#include "model/VisitActivity.h"
 
 #include <filesystem>
 
@@ -88,7 +88,7 @@ bool ConvertVersion0To1(Processes& processes) {
     try {
         for (const auto& process : processes.Snapshot()) {
             for (const auto& activity : process->Activities()->Snapshot()) {
-                auto* sendMail = dynamic_cast<SendMail*>(activity.get());
+                auto* sendMail = ActivityAs<SendMail>(activity.get());
                 if (sendMail && !ConvertBody(processes, process, *sendMail)) return false;
             }
         }
