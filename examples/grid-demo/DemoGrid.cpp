@@ -40,7 +40,8 @@ void FillDemoGrid(PropertyList& grid) {
     rows.Add("Web colour", ExPropHtmlColor, "3366CC");
 
     rows.Add("Files and more", ExPropHeader, "");
-    rows.Add("Template", ExPropFile, "/tmp/letter.dotx").SetDialogFilter("Templates (*.dotx)|*.dotx|All Files (*.*)|*.*");
+    rows.Add("Template", ExPropFile, "/home/office/Documents/Letters/Templates/Members/Welcome letter to new members.dotx")
+        .SetDialogFilter("Templates (*.dotx)|*.dotx|All Files (*.*)|*.*");
     rows.Add("Font", ExPropFont, FontValueText({"DejaVu Sans", 10, true, false, false, false}));
     rows.Add("Folder", ExPropFolder, "/tmp");
     rows.Add("Lookup", ExPropBrowse, "Customers");

@@ -4,7 +4,10 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QVBoxLayout>
 
 using flowloom::grid::PropertyList;
 
@@ -16,16 +19,26 @@ int main(int argc, char** argv) {
     auto* grid = new PropertyList(&window);
     auto* log = new QPlainTextEdit(&window);
     log->setReadOnly(true);
+    log->setFocusPolicy(Qt::ClickFocus);
+    auto* note = new QLineEdit(&window);  // somewhere for Tab to go
+    note->setPlaceholderText("Tab leaves the grid for this box");
+    auto* side = new QVBoxLayout;
+    side->addWidget(log);
+    side->addWidget(note);
     layout->addWidget(grid, 3);
-    layout->addWidget(log, 2);
+    layout->addLayout(side, 2);
 
-    flowloom::grid::demo::LoggingSink sink([log](const std::string& line) { log->appendPlainText(QString::fromStdString(line)); });
+    const auto append = [log](const QString& line) {
+        log->appendPlainText(line);
+        log->verticalScrollBar()->setValue(log->verticalScrollBar()->maximum());
+    };
+    flowloom::grid::demo::LoggingSink sink([append](const std::string& line) { append(QString::fromStdString(line)); });
     grid->SetCallbackSink(&sink);
-    QObject::connect(grid, &PropertyList::Click, [log] { log->appendPlainText("Click"); });
-    QObject::connect(grid, &PropertyList::DblClick, [log] { log->appendPlainText("DblClick"); });
-    QObject::connect(grid, &PropertyList::Scroll, [log] { log->appendPlainText("Scroll"); });
-    QObject::connect(grid, &PropertyList::ErrorRaised, [log](const flowloom::VbError& error) {
-        log->appendPlainText(QString::fromStdString("Error " + std::to_string(error.Number()) + " " + error.Description() + " (" + error.Source() + ")"));
+    QObject::connect(grid, &PropertyList::Click, [append] { append("Click"); });
+    QObject::connect(grid, &PropertyList::DblClick, [append] { append("DblClick"); });
+    QObject::connect(grid, &PropertyList::Scroll, [append] { append("Scroll"); });
+    QObject::connect(grid, &PropertyList::ErrorRaised, [append](const flowloom::VbError& error) {
+        append(QString::fromStdString("Error " + std::to_string(error.Number()) + " " + error.Description() + " (" + error.Source() + ")"));
     });
     flowloom::grid::demo::FillDemoGrid(*grid);
 

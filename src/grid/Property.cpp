@@ -70,6 +70,8 @@ FontValue ParseFontValue(const std::string& text) {
 
 bool Property::IsSelected() const { return owner_ && owner_->IsSelected(*this); }
 
+const DateNames& Property::Names() const { return owner_ ? owner_->LocaleDateNames() : EnglishDateNames(); }
+
 void Property::RedrawOwner() {
     if (owner_) owner_->Redraw();
 }
@@ -139,7 +141,7 @@ void Property::SetValue(const std::string& text) {
             value_ = truth ? textTrue : (owner_ ? owner_->TextFalse() : "False");
             break;
         }
-        default: value_ = !dataFormat_.empty() && !s.empty() ? FormatWithDataFormat(s, dataFormat_) : s;
+        default: value_ = !dataFormat_.empty() && !s.empty() ? FormatWithDataFormat(s, dataFormat_, Names()) : s;
         }
     } catch (...) {
         return;  // a value the format cannot take leaves the old one
@@ -165,7 +167,7 @@ void Property::SetDataFormat(const std::string& format) {
     dataFormat_ = format;
     if (format.empty() || value_.empty()) return;
     try {
-        value_ = FormatWithDataFormat(value_, format);
+        value_ = FormatWithDataFormat(value_, format, Names());
     } catch (...) {
         // the value stays as it was
     }

@@ -12,6 +12,7 @@ namespace flowloom::grid {
 
 class PropertyOwner;
 class Properties;
+struct DateNames;
 
 // One row of the grid: a caption and a typed value, always held as text.
 // Rows are made only by Properties::Add/AddEx and point back at their
@@ -118,6 +119,7 @@ private:
     void SetIndexAndColors(std::int32_t index);
     void RedrawOwner();
     bool IsSelected() const;
+    const DateNames& Names() const;
 
     PropertyOwner* owner_;
     std::string dialogFilter_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grid/GridTypes.h"
+#include "grid/ValueFormat.h"
 
 #include <string>
 
@@ -24,6 +25,8 @@ public:
     virtual std::string TextTrue() const { return "True"; }
     virtual std::string TextFalse() const { return "False"; }
     virtual std::string ShortDatePattern() const { return "dd.mm.yyyy"; }
+    // The month and weekday names of date formats.
+    virtual const DateNames& LocaleDateNames() const { return EnglishDateNames(); }
 
     virtual bool IsSelected(const Property&) const { return false; }
     virtual void Redraw() {}

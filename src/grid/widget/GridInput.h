@@ -2,6 +2,7 @@
 
 #include <QRect>
 
+class QHelpEvent;
 class QKeyEvent;
 class QMouseEvent;
 class QPainter;
@@ -26,6 +27,11 @@ public:
     virtual void ListMouseUp(QMouseEvent& event) = 0;
     virtual void ListDoubleClick() = 0;
     virtual void ListScrolled() = 0;
+    // The mouse rests over the list: a value too long to show is told in a tip.
+    virtual void ListToolTip(const QHelpEvent& event) = 0;
+    // Tab or Shift+Tab in the list or the edit box: true when the focus went
+    // on to the window's next or previous control.
+    virtual bool LeaveByTab(bool next) = 0;
     // Keys that reach the control while the list has the focus.
     virtual void ControlKeyPress(QKeyEvent& event) = 0;
     virtual void ControlKeyRelease(QKeyEvent& event) = 0;
@@ -34,7 +40,9 @@ public:
     virtual bool EditKeyPress(QKeyEvent& event) = 0;
     virtual void EditKeyRelease(QKeyEvent& event) = 0;
     virtual void EditTextEdited() = 0;
-    virtual void EditDoubleClick() = 0;
+    // begunOnRow: the first click of the double click went to the row and
+    // showed the box.
+    virtual void EditDoubleClick(bool begunOnRow) = 0;
     virtual void EditMouseMove() = 0;
 
     virtual void ButtonMouseDown(QMouseEvent& event) = 0;

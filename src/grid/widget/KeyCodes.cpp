@@ -57,8 +57,9 @@ int KeyAscii(const QKeyEvent& event) {
     case Qt::Key_Tab: return 9;
     default: break;
     }
+    // Delete types nothing: X11 still gives it the text DEL (127).
     const QString text = event.text();
-    if (text.isEmpty() || text.at(0).unicode() < 32) return 0;
+    if (text.isEmpty() || text.at(0).unicode() < 32 || text.at(0).unicode() == 127) return 0;
     return text.at(0).unicode();
 }
 

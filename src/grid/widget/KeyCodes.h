@@ -18,7 +18,7 @@ inline constexpr int kShiftMask = 1, kCtrlMask = 2, kAltMask = 4;
 int VirtualKey(const QKeyEvent& event);
 int ShiftState(Qt::KeyboardModifiers modifiers);
 // The character code the key types: Ctrl+letter gives 1 to 26, Enter 13,
-// Esc 27, Backspace 8; 0 when the key types nothing.
+// Esc 27, Backspace 8; 0 when the key types nothing (Delete included).
 int KeyAscii(const QKeyEvent& event);
 // Mouse button as a number: 1 left, 2 right, 4 middle.
 int ButtonNumber(Qt::MouseButton button);

@@ -2,29 +2,60 @@
 
 #include "support/TextCompare.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace flowloom::grid {
 
+namespace {
+
+// Hands a press on to the widget under it, the way the window system would
+// have delivered it had no pop-up held the mouse: through its window, which
+// gives the focus as a click does, minds modal dialogs and sends the release
+// that follows to the same widget.
+void DeliverPress(const QMouseEvent& press) {
+    const QPoint global = press.globalPosition().toPoint();
+    const QWidget* target = QApplication::widgetAt(global);
+    QWindow* window = target ? target->window()->windowHandle() : nullptr;
+    if (!window) return;  // outside the program: the press only closed the pop-up
+    const QPointF local = window->mapFromGlobal(global);
+    QMouseEvent handedOn(QEvent::MouseButtonPress, local, local, press.globalPosition(), press.button(), press.buttons(),
+                         press.modifiers(), press.pointingDevice());
+    QCoreApplication::sendEvent(window, &handedOn);
+}
+
+}  // namespace
+
 PopupFrame::PopupFrame(QWidget* owner) : QFrame(owner, Qt::Popup) {
+    // Qt hands the closing press on by itself on some platforms only; this
+    // pop-up always does it itself, so that the press arrives exactly once.
+    setAttribute(Qt::WA_NoMouseReplay);
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(1);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setContentsMargins(0, 0, 0, 0);  // the frame's line is the whole border
     layout->setSpacing(0);
 }
 
 void PopupFrame::mousePressEvent(QMouseEvent* event) {
-    if (!rect().contains(event->position().toPoint())) {
-        const QPoint global = event->globalPosition().toPoint();
-        OutsidePress(global);
-        emit ClosedByPress(global);
+    if (rect().contains(event->position().toPoint())) {
+        QFrame::mousePressEvent(event);
+        return;
     }
-    QFrame::mousePressEvent(event);  // closes a pop-up pressed outside
+    // A press outside closes the pop-up and still reaches what was clicked.
+    const QPoint global = event->globalPosition().toPoint();
+    OutsidePress(global);
+    emit ClosedByPress(global);
+    close();
+    event->accept();
+    DeliverPress(*event);
 }
 
 void PopupFrame::hideEvent(QHideEvent* event) {
@@ -37,6 +68,7 @@ DropList::DropList(QWidget* owner) : PopupFrame(owner), list_(new QListWidget(th
     list_->setFrameShape(QFrame::NoFrame);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->setUniformItemSizes(true);
+    list_->setMinimumSize(1, 1);  // a list of one entry is one entry high
     layout()->addWidget(list_);
     setFocusProxy(list_);
     list_->installEventFilter(this);
@@ -75,8 +107,14 @@ int DropList::ItemHeight() const { return QFontMetrics(list_->font()).height(); 
 
 int DropList::ListHeight(int itemHeight, int count) { return count >= 9 ? itemHeight * 8 + 2 : (itemHeight + 2) * count; }
 
+int DropList::WholeEntriesHeight(int requested) const {
+    const int frame = 2 * frameWidth();
+    const int entries = std::clamp((requested - frame) / std::max(1, ItemHeight()), 1, std::max(1, Count()));
+    return entries * ItemHeight() + frame;
+}
+
 void DropList::Place(const QRect& editOnScreen, int buttonWidth, int sizeMode, int listWidth) {
-    const int height = ListHeight(ItemHeight(), Count());
+    const int height = WholeEntriesHeight(ListHeight(ItemHeight(), Count()));
     if (sizeMode == 0) setGeometry(editOnScreen.left(), editOnScreen.bottom() + 1, editOnScreen.width() + buttonWidth, height);
     else if (sizeMode == 1) setGeometry(editOnScreen.left(), editOnScreen.bottom() + 1, listWidth, height);
 }

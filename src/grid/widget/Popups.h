@@ -17,6 +17,10 @@ class PopupFrame : public QFrame {
 public:
     explicit PopupFrame(QWidget* owner);
 
+    // Set when the press that closed the pop-up landed on the button that
+    // opens it, so that the same press does not open it again.
+    bool InLimbo = false;
+
 signals:
     void ClosedByPress(QPoint globalPos);
     void Hidden();
@@ -45,15 +49,12 @@ public:
     // 8 rows and the frame from 9 entries on, else each entry with 2 pixels
     // to spare: the two rules differ on purpose.
     static int ListHeight(int itemHeight, int count);
-    // Below the edit box: as wide as edit box and button (mode 0), listWidth
-    // pixels (mode 1), or left where it was (any other mode).
+    // Below the edit box, as high as ListHeight asks cut to whole entries;
+    // as wide as edit box and button (mode 0), listWidth pixels (mode 1),
+    // or left where it was (any other mode).
     void Place(const QRect& editOnScreen, int buttonWidth, int sizeMode, int listWidth);
     // The next entry that begins with the character; false when none does.
     bool SelectByLetter(int ascii);
-
-    // Set when the press that closed the list landed on the button that
-    // opens it, so that the same press does not open it again.
-    bool InLimbo = false;
 
 signals:
     void Picked(int index, bool byMouse);
@@ -62,6 +63,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // The height shrunk so that only whole entries show and none stand
+    // empty below the last, as a list box of integral height does.
+    int WholeEntriesHeight(int requested) const;
+
     QListWidget* list_;
 };
 

@@ -36,9 +36,8 @@ PropertyList::PropertyList(QWidget* parent)
     layout->addWidget(list_);
     setFocusProxy(list_);
     connect(drop_, &DropList::Picked, this, &PropertyList::DropListPicked);
-    connect(drop_, &PopupFrame::ClosedByPress, this, [this](QPoint global) {
-        drop_->InLimbo = button_->isVisible() && button_->rect().contains(button_->mapFromGlobal(global));
-    });
+    connect(drop_, &PopupFrame::ClosedByPress, this, [this](QPoint global) { drop_->InLimbo = IsOnButton(global); });
+    connect(memo_, &PopupFrame::ClosedByPress, this, [this](QPoint global) { memo_->InLimbo = IsOnButton(global); });
     connect(drop_, &PopupFrame::Hidden, this, [this] { button_->SetPressed(ButtonArea::Pressed::None); });
     connect(memo_, &MemoPopup::Committed, this, &PropertyList::MemoCommitted);
     connect(memo_, &PopupFrame::Hidden, this, [this] { button_->SetPressed(ButtonArea::Pressed::None); });
@@ -197,6 +196,10 @@ Property* PropertyList::HitTest(std::int32_t x, std::int32_t y) const {
 }
 
 void PropertyList::Refresh() { list_->viewport()->update(); }
+
+bool PropertyList::IsOnButton(QPoint global) const {
+    return button_->isVisible() && button_->rect().contains(button_->mapFromGlobal(global));
+}
 
 void PropertyList::SetDialogs(std::unique_ptr<GridDialogs> dialogs) { dialogs_ = std::move(dialogs); }
 

@@ -123,8 +123,10 @@ public:
     void SetDialogs(std::unique_ptr<GridDialogs> dialogs);
     void WriteProperties(PropertyBag& bag) const;
     void ReadProperties(const PropertyBag& bag);
-    // The process-wide short date pattern that date rows take as DataFormat.
+    // The process-wide short date pattern that date rows take as DataFormat,
+    // and the names of months and weekdays that date formats show.
     static const std::string& SystemShortDatePattern();
+    static const DateNames& SystemDateNames();
 
 signals:
     void Click();
@@ -178,6 +180,7 @@ private:
     void CommitPendingEdit() override;
     void WidenPictureColumn(int width) override;
     std::string ShortDatePattern() const override { return SystemShortDatePattern(); }
+    const DateNames& LocaleDateNames() const override { return SystemDateNames(); }
 
     // GridInput: what the parts of the control report.
     int MeasureRow(const Property& row) const override;
@@ -188,12 +191,14 @@ private:
     void ListMouseUp(QMouseEvent& event) override;
     void ListDoubleClick() override;
     void ListScrolled() override;
+    bool LeaveByTab(bool next) override;
+    void ListToolTip(const QHelpEvent& event) override;
     void ControlKeyPress(QKeyEvent& event) override;
     void ControlKeyRelease(QKeyEvent& event) override;
     bool EditKeyPress(QKeyEvent& event) override;
     void EditKeyRelease(QKeyEvent& event) override;
     void EditTextEdited() override;
-    void EditDoubleClick() override;
+    void EditDoubleClick(bool begunOnRow) override;
     void EditMouseMove() override;
     void ButtonMouseDown(QMouseEvent& event) override;
     void ButtonMouseUp(QMouseEvent& event) override;
@@ -258,6 +263,8 @@ private:
     void FocusChanged(QWidget* now);
     bool OwnsWidget(const QWidget* widget) const;
     void UpdateSizePointer(int x);
+    bool IsOnButton(QPoint global) const;
+    QWidget* FocusNeighbour(bool next) const;
 
     grid::Properties rows_{this};
     RowListView* list_;

@@ -120,7 +120,7 @@ void PropertyList::LayoutEditors(Property& row, const QRect& rowRect) {
     const int editWidth = rightLimit - left - (withButton ? size : 0);
     edit_->setReadOnly(row.LockedEdit());
     edit_->setMaxLength(row.MaxLength() > 0 ? row.MaxLength() : 32767);
-    edit_->setEchoMode(row.PasswordChar().empty() ? QLineEdit::Normal : QLineEdit::Password);
+    edit_->SetMask(QString::fromStdString(row.PasswordChar()));
     edit_->setFont(ToQFont(row.Font()));
     QPalette palette = edit_->palette();
     palette.setColor(QPalette::Base, ResolveColor(backColorValue_ != backColor_ ? backColorValue_ : row.BackColor()));
@@ -202,6 +202,7 @@ void PropertyList::OpenMemo() {
     const int width = edit_->width() + (button_->isHidden() ? 0 : button_->width());
     const QPoint at = edit_->mapToGlobal(QPoint(0, edit_->height()));
     const QString text = QString::fromStdString(vb::Replace(row.value(), "\r\n", "\n"));
+    memo_->InLimbo = false;
     memo_->Open(text, font, QRect(at, QSize(width, height)));
 }
 
@@ -240,6 +241,10 @@ void PropertyList::PressButtonSteps(Property& row, int y, const char*& step) {
         return;
     case ExPropMemo:
         step = "MemoField";
+        if (memo_->InLimbo) {
+            memo_->InLimbo = false;  // the press that closed the memo
+            return;
+        }
         button_->SetPressed(ButtonArea::Pressed::Whole);
         OpenMemo();
         return;

@@ -10,7 +10,9 @@
 #include "grid/widget/RowWatch.h"
 
 #include <QApplication>
+#include <QHelpEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 
 namespace flowloom::grid {
 
@@ -99,7 +101,8 @@ void PropertyList::ListMouseUp(QMouseEvent& event) {
     Property* current = list_->CurrentRow();
     const bool clickDue = current == selected_;
     if (!clickDue && current) selected_ = current;
-    ShowEditors();
+    // After a double click the editors already stand, with their text selected.
+    if (edit_->isHidden()) ShowEditors();
     emit MouseUp(ButtonNumber(event.button()), ShiftState(event.modifiers()), Position(event).x(), Position(event).y());
     if (clickDue) emit Click();
 }
@@ -110,8 +113,13 @@ void PropertyList::ListDoubleClick() {
     emit DblClick();
 }
 
-void PropertyList::EditDoubleClick() {
-    if (selected_ && IsListType(selected_->ItemType())) DoubleClickRow();
+void PropertyList::EditDoubleClick(bool begunOnRow) {
+    if (!selected_) return;
+    const int type = selected_->ItemType();
+    if (IsListType(type)) DoubleClickRow();
+    // The first click of the double click went to the row and showed the
+    // box: the double click was meant for the row, and takes its whole text.
+    else if (begunOnRow && (type == ExPropText || type == ExPropNumber)) DoubleClickRow();
 }
 
 void PropertyList::DoubleClickRow() {
@@ -124,7 +132,10 @@ void PropertyList::DoubleClickRow() {
         if (expandableHeaders_) SetHeaderExpanded(row, !row.Expanded());
         break;
     case ExPropText:
-    case ExPropNumber: SelectAllInEdit(); break;
+    case ExPropNumber:
+        if (edit_->isHidden()) ShowEditors();  // the press of this double click hid it
+        SelectAllInEdit();
+        break;
     case ExPropBoolean: {
         const bool toFalse = row.value() == textTrue_;
         ApplyPick(row, toFalse ? 1 : 0, toFalse ? textFalse_ : textTrue_);
@@ -154,6 +165,15 @@ void PropertyList::ListScrolled() {
     emit Scroll();
 }
 
+void PropertyList::ListToolTip(const QHelpEvent& event) {
+    const int index = list_->ItemAt(event.pos());
+    Property* row = list_->Row(index);
+    const bool overValue = event.pos().x() + list_->HScrollPos() > LongestItem();
+    const QString text = row && overValue ? HiddenValueText(*row, list_->ItemRect(index), PaintSettings(false)) : QString();
+    if (text.isEmpty()) QToolTip::hideText();
+    else QToolTip::showText(event.globalPos(), text, list_->viewport());
+}
+
 // Mouse on the editors ----------------------------------------------------
 
 void PropertyList::EditMouseMove() {
@@ -180,6 +200,23 @@ void PropertyList::ButtonDoubleClick(QMouseEvent&) {
 }
 
 // Focus -----------------------------------------------------------------------
+
+// The window's next (or previous) control that Tab may reach, outside the grid.
+QWidget* PropertyList::FocusNeighbour(bool next) const {
+    const auto step = [next](const QWidget* w) { return next ? w->nextInFocusChain() : w->previousInFocusChain(); };
+    for (QWidget* w = step(this); w && w != this; w = step(w)) {
+        const bool takesTab = (w->focusPolicy() & Qt::TabFocus) == Qt::TabFocus && !w->focusProxy();
+        if (takesTab && !OwnsWidget(w) && w->window() == window() && w->isVisible() && w->isEnabled()) return w;
+    }
+    return nullptr;
+}
+
+bool PropertyList::LeaveByTab(bool next) {
+    QWidget* neighbour = FocusNeighbour(next);
+    if (!neighbour) return false;  // the grid is the window's only stop: the key stays here
+    neighbour->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+}
 
 bool PropertyList::OwnsWidget(const QWidget* widget) const {
     return widget && (widget == this || isAncestorOf(widget) || widget == drop_ || drop_->isAncestorOf(widget) ||

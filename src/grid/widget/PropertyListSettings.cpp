@@ -1,8 +1,9 @@
-// Design-time settings through a property bag, and the short date pattern.
+// Design-time settings through a property bag, and the locale's date formats.
 #include "grid/widget/PropertyList.h"
 
 #include "support/VbStrings.h"
 #include "grid/widget/GridColors.h"
+#include "grid/widget/LocaleFormats.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -88,20 +89,16 @@ const std::vector<Setting>& Settings() {
     return settings;
 }
 
-// The system's short date in the formatter's letters, years with four digits.
-std::string ReadShortDatePattern() {
-    std::string pattern = QLocale::system().dateFormat(QLocale::ShortFormat).toStdString();
-    for (char& c : pattern)
-        if (c == 'M') c = 'm';
-    if (pattern.size() >= 3 && pattern.ends_with("yy") && pattern[pattern.size() - 3] != 'y') pattern += "yy";
-    return pattern;
-}
-
 }  // namespace
 
 const std::string& PropertyList::SystemShortDatePattern() {
-    static const std::string pattern = ReadShortDatePattern();
+    static const std::string pattern = ShortDatePatternOf(QLocale::system());
     return pattern;
+}
+
+const DateNames& PropertyList::SystemDateNames() {
+    static const DateNames names = DateNamesOf(QLocale::system());
+    return names;
 }
 
 void PropertyList::WriteProperties(PropertyBag& bag) const {

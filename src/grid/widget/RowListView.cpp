@@ -5,6 +5,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -22,9 +23,13 @@ RowListView::RowListView(GridInput& input, QWidget* parent) : QAbstractScrollAre
         viewport()->update();
     });
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, viewport(), qOverload<>(&QWidget::update));
-    // Only the user's scrolling counts as a scroll of the list.
-    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, [this] { input_.ListScrolled(); });
-    connect(horizontalScrollBar(), &QScrollBar::actionTriggered, this, [this] { input_.ListScrolled(); });
+    // Only the user's scrolling counts as a scroll of the list; a turn of the
+    // wheel moves a bar too, but is one scroll, told by wheelEvent.
+    const auto scrolledByBar = [this] {
+        if (!inWheel_) input_.ListScrolled();
+    };
+    connect(verticalScrollBar(), &QScrollBar::actionTriggered, this, scrolledByBar);
+    connect(horizontalScrollBar(), &QScrollBar::actionTriggered, this, scrolledByBar);
 }
 
 void RowListView::Clear() {
@@ -50,7 +55,9 @@ int RowListView::IndexOfRow(const Property* row) const {
 
 void RowListView::SetCurrentIndex(int index) {
     current_ = index >= 0 && index < Count() ? index : -1;
-    if (current_ >= 0) EnsureVisible(current_);
+    // A hidden list has no height of its own yet: scrolling now would hide
+    // rows that fit once it is shown, so the row comes into view then.
+    if (current_ >= 0 && isVisible()) EnsureVisible(current_);
     viewport()->update();
 }
 
@@ -172,6 +179,14 @@ void RowListView::paintEvent(QPaintEvent*) {
     }
 }
 
+bool RowListView::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(event);
+    input_.ListToolTip(static_cast<const QHelpEvent&>(*event));
+    return true;
+}
+
+bool RowListView::focusNextPrevChild(bool next) { return input_.LeaveByTab(next); }
+
 void RowListView::mousePressEvent(QMouseEvent* event) { input_.ListMouseDown(*event); }
 void RowListView::mouseMoveEvent(QMouseEvent* event) { input_.ListMouseMove(*event); }
 void RowListView::mouseReleaseEvent(QMouseEvent* event) { input_.ListMouseUp(*event); }
@@ -180,8 +195,16 @@ void RowListView::keyPressEvent(QKeyEvent* event) { input_.ControlKeyPress(*even
 void RowListView::keyReleaseEvent(QKeyEvent* event) { input_.ControlKeyRelease(*event); }
 
 void RowListView::wheelEvent(QWheelEvent* event) {
-    QAbstractScrollArea::wheelEvent(event);
+    {
+        const QScopedValueRollback<bool> wheel(inWheel_, true);
+        QAbstractScrollArea::wheelEvent(event);
+    }
     input_.ListScrolled();
+}
+
+void RowListView::showEvent(QShowEvent* event) {
+    QAbstractScrollArea::showEvent(event);
+    if (current_ >= 0) EnsureVisible(current_);
 }
 
 void RowListView::resizeEvent(QResizeEvent* event) {

@@ -45,6 +45,7 @@ public:
     void Relayout();
 
 protected:
+    bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -54,7 +55,8 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
-    bool focusNextPrevChild(bool) override { return false; }
+    void showEvent(QShowEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     int Height(int index) const;
@@ -68,6 +70,7 @@ private:
     int current_ = -1;
     int top_ = 0;
     int extent_ = 0;
+    bool inWheel_ = false;
 };
 
 }  // namespace flowloom::grid

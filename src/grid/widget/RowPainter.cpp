@@ -51,27 +51,46 @@ std::string ShownValue(Property& row) {
     return masked;
 }
 
-// The value column from left to the full right edge.
+bool HasSwatch(int type) { return type == ExPropColor || type == ExPropHtmlColor; }
+
+// Width of a colour row's swatch with the pixel before and behind it.
+int SwatchWidth(int top, int bottom) { return 1 + (bottom - top - 2) + 1; }
+
+constexpr int kValueTextIndent = 3;
+
+// The value column from left to the full right edge; a value too long for it
+// ends in an ellipsis.
 void PaintValue(QPainter& painter, Property& row, int left, int top, int right, int bottom, const RowPaintSettings& settings) {
     const int type = row.ItemType();
-    if (type == ExPropColor || type == ExPropHtmlColor) {
-        left += 1;
+    if (HasSwatch(type)) {
         const int side = bottom - top - 2;
         painter.setPen(QPen(Qt::black, 1));
         painter.setBrush(ResolveColor(row.SwatchColor()));
-        painter.drawRect(left, top + 1, side - 1, side - 1);
-        left += side + 1;
+        painter.drawRect(left + 1, top + 1, side - 1, side - 1);
+        left += SwatchWidth(top, bottom);
     }
     const OleColor fill = settings.backColorValue != settings.backColor ? settings.backColorValue : row.BackColor();
     painter.fillRect(Edges(left, top, right, bottom), ResolveColor(fill));
     if (type == ExPropHeader) return;
-    left += 3;
+    left += kValueTextIndent;
+    const QString text = painter.fontMetrics().elidedText(QString::fromStdString(ShownValue(row)), Qt::ElideRight, right - left);
     painter.setPen(ResolveColor(row.ForeColor()));
-    painter.drawText(Edges(left, top, right, bottom), Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine,
-                     QString::fromStdString(ShownValue(row)));
+    painter.drawText(Edges(left, top, right, bottom), Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine, text);
 }
 
 }  // namespace
+
+QString HiddenValueText(Property& row, const QRect& rect, const RowPaintSettings& settings) {
+    const int type = row.ItemType();
+    if (type == ExPropHeader || type == ExPropOwnerDraw || !row.PasswordChar().empty()) return {};
+    const int top = rect.top();
+    const int bottom = rect.top() + rect.height() - 1;
+    int left = settings.dividerX + 1 + kValueTextIndent;
+    if (HasSwatch(type)) left += SwatchWidth(top, bottom);
+    const QString text = QString::fromStdString(ShownValue(row));
+    const int room = rect.left() + rect.width() - left;
+    return QFontMetrics(ToQFont(row.Font())).horizontalAdvance(text) > room ? text : QString();
+}
 
 int IndentWidth(const QFont& font) { return static_cast<int>(std::lround(QFontMetricsF(font).horizontalAdvance('W'))); }
 

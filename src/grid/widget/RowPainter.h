@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QImage>
 #include <QRect>
+#include <QString>
 
 #include <optional>
 
@@ -36,6 +37,10 @@ struct OwnerDrawArea {
 // Paints one row into rect (content coordinates); an owner-drawn row gets
 // its background and expand box only, and the area it may paint is returned.
 std::optional<OwnerDrawArea> PaintRow(QPainter& painter, Property& row, const QRect& rect, const RowPaintSettings& settings);
+
+// The whole value of a row painted in rect when it is too long to show
+// there; empty when it fits, and for rows whose value is masked or not text.
+QString HiddenValueText(Property& row, const QRect& rect, const RowPaintSettings& settings);
 
 // Height of a row: its font's text height plus 2, or its picture's height
 // plus 2 when that is taller and pictures are shown (style 1).

@@ -1,6 +1,7 @@
 // Rows of the grid: values by type, Changed, stripes, removal, sorting, errors.
 #include "grid/Properties.h"
 #include "grid/PropertyOwner.h"
+#include "grid/ValueFormat.h"
 
 #include "support/VbError.h"
 
@@ -97,6 +98,45 @@ TEST(PropertyRows, DateFormatAndFailuresKeepTheOldValue) {
     number.SetDataFormat("#,##0.00");
     EXPECT_EQ(number.value(), "1,234.50");
     EXPECT_FALSE(number.Changed());
+}
+
+// A control whose locale writes dates with the month's name.
+class NamedMonthOwner : public PropertyOwner {
+public:
+    NamedMonthOwner() {
+        names_ = EnglishDateNames();
+        names_.shortMonths[10] = "Nov.";
+        names_.longMonths[10] = "November";
+    }
+    std::string ShortDatePattern() const override { return "d mmm yyyy"; }
+    const DateNames& LocaleDateNames() const override { return names_; }
+
+private:
+    DateNames names_;
+};
+
+TEST(PropertyRows, DatesShowTheMonthAsTheFormatSaysAndAreReadBackByName) {
+    NamedMonthOwner owner;
+    Properties rows(&owner);
+    Property& date = rows.Add("Due", ExPropDate, "2026-11-23");
+    EXPECT_EQ(date.value(), "23 Nov. 2026");
+    date.SetDataFormat("dddd, d mmmm yyyy");
+    EXPECT_EQ(date.value(), "Monday, 23 November 2026");
+    date.SetDataFormat("yyyy-mm-dd");
+    EXPECT_EQ(date.value(), "2026-11-23");
+    date.SetValue("5 Dec 2026");  // English names are understood in any locale
+    EXPECT_EQ(date.value(), "2026-12-05");
+    date.SetValue("31.02.2026");
+    EXPECT_EQ(date.value(), "2026-12-05");
+}
+
+TEST(PropertyRows, DatesAreReadInTheDayAndMonthOrderOfTheirFormat) {
+    EXPECT_EQ(FormatWithDataFormat("11/23/26", "m/d/yyyy"), "11/23/2026");
+    EXPECT_EQ(FormatWithDataFormat("1/2/2026", "m/d/yyyy"), "1/2/2026");
+    EXPECT_EQ(FormatWithDataFormat("1/2/2026", "dd.mm.yyyy"), "01.02.2026");
+    EXPECT_EQ(FormatWithDataFormat("23.11.2026", "m/d/yyyy"), "11/23/2026");  // only fits day first
+    EXPECT_EQ(FormatWithDataFormat("2026-01-02", "d \"de\" mmmm \"de\" yyyy"), "2 de January de 2026");
+    EXPECT_EQ(ErrorNumber([] { FormatWithDataFormat("13/13/2026", "m/d/yyyy"); }), 13);
 }
 
 TEST(PropertyRows, TypeDefaultsOfNewRows) {

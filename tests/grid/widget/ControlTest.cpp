@@ -2,6 +2,11 @@
 // handlers that rebuild the rows, settings with their errors, the divider.
 #include "GridTestSupport.h"
 
+#include <QHelpEvent>
+#include <QToolTip>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
 #include <gtest/gtest.h>
 
 namespace flowloom::grid::testing {
@@ -66,6 +71,77 @@ TEST(GridHeaders, RowsAddedBehindACollapsedHeaderStayHidden) {
     h.grid().SetExpandableHeaders(false);
     h.grid().SetAlwaysShowHeaders(false);
     EXPECT_EQ(VisibleRows(h), 2);
+}
+
+TEST(GridScrolling, AGridFilledBeforeItShowsOpensAtTheTopWithTheSelectedRowInView) {
+    for (const int selected : {1, 39}) {
+        SCOPED_TRACE(selected);
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* grid = new PropertyList(&window);
+        layout->addWidget(grid);
+        grid->Properties().Add("Header", ExPropHeader, "");
+        for (int i = 1; i < 40; ++i) grid->Properties().Add("Row " + std::to_string(i), ExPropText, "");
+        grid->SetListIndex(selected);  // as a form fills its grid before it shows
+        window.resize(300, 200);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QApplication::processEvents();
+
+        const QWidget* viewport = grid->findChild<QAbstractScrollArea*>("lst")->viewport();
+        std::vector<Property*> shown;
+        for (int y = 0; y < viewport->height(); ++y) {
+            const QPoint at = viewport->mapTo(grid, QPoint(10, y));
+            Property* row = grid->HitTest(at.x(), at.y());
+            if (row && (shown.empty() || shown.back() != row)) shown.push_back(row);
+        }
+        Property& row = grid->Properties().Item(selected + 1);
+        ASSERT_FALSE(shown.empty());
+        if (selected == 1) {
+            EXPECT_EQ(shown.front()->name(), "Header");
+        }
+        EXPECT_NE(std::find(shown.begin(), shown.end(), &row), shown.end());
+        EXPECT_EQ(grid->SelectedItem(), &row);
+    }
+}
+
+TEST(GridScrolling, ATurnOfTheWheelIsOneScroll) {
+    GridHarness h;
+    for (int i = 0; i < 40; ++i) h.grid().Properties().Add("Row " + std::to_string(i), ExPropText, "");
+    int scrolls = 0;
+    QObject::connect(&h.grid(), &PropertyList::Scroll, [&] { ++scrolls; });
+    const QPoint at = h.Cell(2, false);
+    QWheelEvent wheel(at, h.List()->mapToGlobal(at), QPoint(), QPoint(0, -120), Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(h.List(), &wheel);
+    EXPECT_EQ(scrolls, 1);
+    EXPECT_GT(h.grid().TopIndex(), 0);
+}
+
+// The text of the tip shown for a rest of the mouse at a point of the
+// widget; empty when none shows.
+QString TipAt(QWidget* widget, QPoint at) {
+    QHelpEvent rest(QEvent::ToolTip, at, widget->mapToGlobal(at));
+    QApplication::sendEvent(widget, &rest);
+    return QToolTip::isVisible() ? QToolTip::text() : QString();
+}
+
+TEST(GridToolTips, AValueTooLongToShowIsToldWholeInATip) {
+    GridHarness h;
+    const std::string path = "/home/someone/documents/letters/" + std::string(80, 'x') + "/template.dotx";
+    const std::string query = "SELECT " + std::string(80, 'y') + " FROM Customers";
+    h.grid().Properties().Add("Short", ExPropText, "fits");
+    h.grid().Properties().Add("Secret", ExPropText, std::string(200, 's')).SetPasswordChar("*");
+    h.grid().Properties().Add("Path", ExPropText, path);
+    h.grid().Properties().Add("Query", ExPropText, query);
+    h.Select(0);
+    EXPECT_EQ(TipAt(h.List(), h.Cell(1, true)), "");  // masked values stay hidden
+    EXPECT_EQ(TipAt(h.List(), h.Cell(2, false)), "");  // over the caption
+    EXPECT_EQ(TipAt(h.List(), h.Cell(2, true)), QString::fromStdString(path));
+
+    h.Select(3);  // the edit box covers the value now
+    EXPECT_EQ(TipAt(h.Edit(), QPoint(5, 5)), QString::fromStdString(query));
+    QToolTip::hideText();
 }
 
 TEST(GridEvents, TheSinkSilencesTheSignalsUntilCleared) {

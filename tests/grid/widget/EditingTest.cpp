@@ -3,6 +3,7 @@
 #include "GridTestSupport.h"
 
 #include <QClipboard>
+#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -112,6 +113,115 @@ TEST(GridEditing, NumberBoxTakesDigitsOnly) {
     h.Edit()->selectAll();
     h.Key(h.Edit(), Qt::Key_Delete);
     EXPECT_EQ(h.Edit()->text(), "0");  // a number row without AllowNullNumber is never empty
+}
+
+TEST(GridEditing, DeleteAsTheWindowSystemSendsItWorksInANumberBoxAndTypesNothing) {
+    GridHarness h;
+    h.grid().Properties().Add("Count", ExPropNumber, "123");
+    h.ClickCell(0, true);
+    h.Edit()->setFocus();
+    h.Edit()->home(false);
+    const QString del(QChar(127));  // X11 gives Delete this text
+    QTest::sendKeyEvent(QTest::Press, h.Edit(), Qt::Key_Delete, del, {});
+    QTest::sendKeyEvent(QTest::Release, h.Edit(), Qt::Key_Delete, del, {});
+    EXPECT_EQ(h.Edit()->text(), "23");
+    EXPECT_TRUE(h.sink.Logged("KeyDownEdit 46"));
+    EXPECT_EQ(h.sink.Count("KeyPressEdit"), 0u);
+}
+
+TEST(GridEditing, ADoubleClickOnATextOrNumberRowSelectsTheWholeTextSoThatTypingReplacesIt) {
+    GridHarness h;
+    Property& count = h.grid().Properties().Add("Count", ExPropNumber, "42");
+    Property& note = h.grid().Properties().Add("Note", ExPropText, "Letters to members");
+
+    h.DoubleClickCell(0, false);  // on the caption
+    EXPECT_EQ(h.Edit()->selectedText(), "42");
+    QTest::keyClicks(QApplication::focusWidget(), "7");
+    h.Key(h.Edit(), Qt::Key_Return);
+    EXPECT_EQ(count.value(), "7");
+
+    // On the value: the first click shows the edit box, which takes the second.
+    QTest::mouseDClick(h.List(), Qt::LeftButton, {}, h.Cell(1, true));
+    EXPECT_EQ(h.grid().SelectedItem(), &note);
+    EXPECT_EQ(h.Edit()->selectedText(), "Letters to members");
+    QTest::keyClicks(h.Edit(), "Replies");
+    h.Key(h.Edit(), Qt::Key_Return);
+    EXPECT_EQ(note.value(), "Replies");
+
+    // In a box that was already open, a double click still selects a word.
+    h.Edit()->setText("two words");
+    QTest::mouseDClick(h.Edit(), Qt::LeftButton, {}, QPoint(4, h.Edit()->height() / 2));
+    EXPECT_EQ(h.Edit()->selectedText(), "two");
+}
+
+TEST(GridEditing, TheEditBoxTakesTheRowsColoursAtItsFirstShowing) {
+    QWidget window;
+    auto* grid = new PropertyList(&window);
+    grid->resize(300, 200);
+    grid->SetBackColorAlternate(0xE6ECF4);
+    grid->Properties().Add("Plain", ExPropText, "a");
+    grid->Properties().Add("Striped", ExPropText, "b");
+    grid->Properties().Add("Own", ExPropText, "c", 0x00FFFF, 0x0000FF);
+    grid->SetListIndex(1);  // before the window shows, as a form fills its grid
+    window.resize(300, 200);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    auto* edit = grid->findChild<QLineEdit*>("txtValue");
+    ASSERT_TRUE(edit->isVisible());
+    const auto background = [edit] {
+        const QImage image = edit->grab().toImage();
+        return image.pixelColor(image.width() - 3, image.height() / 2);
+    };
+    EXPECT_EQ(background(), QColor(0xF4, 0xEC, 0xE6));
+    grid->SetListIndex(2);
+    EXPECT_EQ(background(), QColor(255, 255, 0));
+    EXPECT_EQ(edit->palette().color(QPalette::Text), QColor(255, 0, 0));
+}
+
+TEST(GridEditing, APasswordRowMasksItsEditBoxWithItsOwnCharacter) {
+    GridHarness h;
+    h.grid().Properties().Add("Secret", ExPropText, "abc").SetPasswordChar("*");
+    h.grid().Properties().Add("Pin", ExPropText, "12").SetPasswordChar("#");
+    h.grid().Properties().Add("Plain", ExPropText, "xy");
+    h.Select(0);
+    EXPECT_EQ(h.Edit()->displayText(), "***");
+    EXPECT_EQ(h.Edit()->text(), "abc");
+    h.Select(1);
+    EXPECT_EQ(h.Edit()->displayText(), "##");
+    h.Select(2);
+    EXPECT_EQ(h.Edit()->displayText(), "xy");
+}
+
+TEST(GridEditing, TabAndShiftTabLeaveTheGridForTheWindowsNextAndPreviousControl) {
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    auto* before = new QLineEdit(&window);
+    auto* grid = new PropertyList(&window);
+    auto* after = new QLineEdit(&window);
+    layout->addWidget(before);
+    layout->addWidget(grid);
+    layout->addWidget(after);
+    RecordingSink sink;
+    grid->SetCallbackSink(&sink);
+    Property& name = grid->Properties().Add("Name", ExPropText, "old");
+    window.resize(300, 300);
+    window.show();
+    QApplication::setActiveWindow(&window);
+
+    QWidget* list = grid->findChild<QAbstractScrollArea*>("lst");
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), after);
+
+    grid->SetListIndex(0);
+    auto* edit = grid->findChild<QLineEdit*>("txtValue");
+    edit->setFocus();
+    edit->setText("typed");
+    QTest::keyClick(edit, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget(), before);
+    EXPECT_EQ(name.value(), "typed");  // leaving the grid commits the edit
+    EXPECT_TRUE(sink.Logged("ValueChanged Name=typed"));
+    grid->SetCallbackSink(nullptr);
 }
 
 TEST(GridEditing, SpinButtonsAndNumpadKeysStepTheNumber) {

@@ -16,9 +16,9 @@ std::int32_t ErrorNumber(const std::function<void()>& call, std::string* source)
     return 0;
 }
 
-bool RecordingSink::Logged(const std::string& entry) const { return std::find(log.begin(), log.end(), entry) != log.end(); }
+bool RecordingEvents::Logged(const std::string& entry) const { return std::find(log.begin(), log.end(), entry) != log.end(); }
 
-std::size_t RecordingSink::Count(const std::string& prefix) const {
+std::size_t RecordingEvents::Count(const std::string& prefix) const {
     return static_cast<std::size_t>(std::count_if(log.begin(), log.end(), [&](const std::string& e) { return e.rfind(prefix, 0) == 0; }));
 }
 

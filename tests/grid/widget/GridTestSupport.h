@@ -15,8 +15,9 @@
 
 namespace flowloom::grid::testing {
 
-// A sink that logs every notification and lets a test decide the answers.
-class RecordingSink : public IPropEventSink {
+// Logs every window-free notification and lets a test decide the answers,
+// as a property sheet would handle them.
+class RecordingEvents : public virtual PropertyEvents {
 public:
     std::vector<std::string> log;
     bool cancel = false;
@@ -39,7 +40,6 @@ public:
     }
     void QueryCustomData(Property&, std::string&) override {}
     void GetPredefinedStrings(Property&, std::vector<std::string>&) override {}
-    void DrawItem(Property& row, QPainter&, int, int, int, int, int, int) override { log.push_back("DrawItem " + row.name()); }
     void ShowEditControl(Property&, int, int, int, int, bool&) override {}
     void HideEditControl() override {}
     void Expand(Property& row) override { log.push_back("Expand " + row.name()); }
@@ -54,6 +54,13 @@ public:
 
     bool Logged(const std::string& entry) const;
     std::size_t Count(const std::string& prefix) const;
+};
+
+// The window-free handler joined with the painting hook, as an owner gives
+// it to the control.
+class RecordingSink : public RecordingEvents, public IPropEventSink {
+public:
+    void DrawItem(Property& row, QPainter&, int, int, int, int, int, int) override { log.push_back("DrawItem " + row.name()); }
 };
 
 // The number of the error a call raises (0 for none), and its source.

@@ -81,7 +81,7 @@ TEST(GridDropList, HeightRulesAndSizeModes) {
     EXPECT_EQ(h.DropEntries()->count(), 1);
 }
 
-TEST(GridDropList, ThePressThatClosesTheListDoesNotReopenIt) {
+TEST(GridDropList, ThePressThatClosesTheListOnItsArrowDoesNotReopenItButTheNextDoes) {
     GridHarness h;
     Property& row = h.grid().Properties().Add("Flag", ExPropBoolean, "True");
     h.Select(0);
@@ -90,16 +90,46 @@ TEST(GridDropList, ThePressThatClosesTheListDoesNotReopenIt) {
     EXPECT_EQ(h.DropEntries()->count(), 2);
     EXPECT_EQ(h.DropEntries()->currentRow(), 0);
 
-    h.ClickButton();  // lands on the pop-up, which closes
-    EXPECT_FALSE(h.DropList()->isVisible());
-    // Offscreen pop-ups hold no pointer grab, so Qt doesn't hand the closing
-    // press on to the button here; a desktop does, and this is that press.
-    h.ClickButton();
+    h.ClickButton();  // lands on the pop-up, which closes and hands the press on to the arrow
     EXPECT_FALSE(h.DropList()->isVisible());
     h.ClickButton();
     EXPECT_TRUE(h.DropList()->isVisible());
     h.Key(h.DropEntries(), Qt::Key_Escape);
     EXPECT_EQ(row.value(), "True");
+}
+
+TEST(GridDropList, APressOutsideTheOpenListClosesItAndReachesWhatWasClicked) {
+    GridHarness h;
+    Property& kind = h.grid().Properties().Add("Kind", ExPropCustomList, "One");
+    kind.SetListItems(std::vector<std::string>{"One", "Two"});
+    Property& other = h.grid().Properties().Add("Other", ExPropText, "");
+    h.Select(0);
+    h.ClickButton();
+    ASSERT_TRUE(h.DropList()->isVisible());
+
+    h.ClickCell(1, false);
+    EXPECT_FALSE(h.DropList()->isVisible());
+    EXPECT_TRUE(h.sink.Logged("SelChange Kind>Other"));
+    EXPECT_EQ(h.grid().SelectedItem(), &other);
+    EXPECT_TRUE(h.Edit()->isVisible());  // the release followed the press to the list
+    EXPECT_EQ(kind.value(), "One");
+}
+
+TEST(GridDropList, ShortListsEndWithTheirLastEntryAndLongOnesShowEightWholeEntries) {
+    GridHarness h;
+    Property& row = h.grid().Properties().Add("Kind", ExPropCustomList, "");
+    h.Select(0);
+    for (const int count : {1, 3, 8, 12}) {
+        SCOPED_TRACE(count);
+        row.SetListItems(Entries(count));
+        h.ClickButton();
+        ASSERT_TRUE(h.DropList()->isVisible());
+        const QWidget* viewport = h.DropEntries()->viewport();
+        const QRect last = h.DropEntries()->visualItemRect(h.DropEntries()->item(std::min(count, 8) - 1));
+        EXPECT_TRUE(viewport->rect().contains(last)) << "the last entry shown is whole";
+        EXPECT_EQ(last.bottom(), viewport->rect().bottom()) << "no empty space below it";
+        h.Key(h.DropEntries(), Qt::Key_Escape);
+    }
 }
 
 TEST(GridDropList, ArrowKeysInTheEditBoxRunThroughAClosedList) {
@@ -175,10 +205,10 @@ TEST(GridMemo, EnterCommitsWithALineEndAndEscDrops) {
     EXPECT_EQ(row.value(), "one\r\ntwo\r\n");
 }
 
-TEST(GridMemo, APressOutsideCommits) {
+TEST(GridMemo, APressOutsideCommitsAndReachesWhatWasClicked) {
     GridHarness h;
     Property& row = h.grid().Properties().Add("Body", ExPropMemo, "text");
-    h.grid().Properties().Add("Other", ExPropText, "");
+    Property& other = h.grid().Properties().Add("Other", ExPropText, "");
     h.Select(0);
     h.ClickButton();
     ASSERT_TRUE(h.Memo()->isVisible());
@@ -186,6 +216,21 @@ TEST(GridMemo, APressOutsideCommits) {
     QApplication::processEvents();
     EXPECT_FALSE(h.Memo()->isVisible());
     EXPECT_EQ(row.value(), "text\r\n");
+    EXPECT_EQ(h.grid().SelectedItem(), &other);
+}
+
+TEST(GridMemo, ThePressThatCommitsOnTheArrowDoesNotReopenIt) {
+    GridHarness h;
+    Property& row = h.grid().Properties().Add("Body", ExPropMemo, "");
+    h.Select(0);
+    h.ClickButton();
+    ASSERT_TRUE(h.Memo()->isVisible());
+    QTest::keyClicks(h.Memo()->focusProxy(), "note");
+    h.ClickButton();
+    EXPECT_FALSE(h.Memo()->isVisible());
+    EXPECT_EQ(row.value(), "note\r\n");
+    h.ClickButton();
+    EXPECT_TRUE(h.Memo()->isVisible());
 }
 
 TEST(GridDropList, AControlDestroyedWithItsListOpenLeavesNothingBehind) {

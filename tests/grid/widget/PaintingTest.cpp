@@ -112,6 +112,22 @@ TEST(GridPainting, PictureColumnKeepsCaptionsInLine) {
     EXPECT_EQ(with - without, 18);
 }
 
+TEST(GridPainting, AValueTooLongToShowEndsInAnEllipsis) {
+    Properties rows;
+    Property& row = rows.Add("Long", ExPropText, std::string(100, 'W'), 0xFFFFFF, 0x000000);
+    const RowPicture picture(row);
+    const int textTop = 2;
+    const int textBottom = RowHeight(row, 0) - 3;
+    int lastInk = -1;
+    for (int x = kDivider + 1; x < kWidth; ++x)
+        for (int y = textTop; y <= textBottom; ++y)
+            if (picture.At(x, y) != QColor(Qt::white)) lastInk = x;
+    ASSERT_GT(lastInk, kDivider);
+    // The last dot of the ellipsis sits on the base line: nothing above the
+    // middle of the text, where a cut-off W would still show its strokes.
+    for (int y = textTop; y < (textTop + textBottom) / 2; ++y) EXPECT_EQ(picture.At(lastInk, y), QColor(Qt::white)) << y;
+}
+
 TEST(GridPainting, TheExampleGridAsAPicture) {
     GridHarness h;
     h.grid().SetCallbackSink(nullptr);
@@ -126,6 +142,31 @@ TEST(GridPainting, TheExampleGridAsAPicture) {
     const QString path = QString(GRID_SCREENSHOT_DIR) + "/grid-demo.png";
     ASSERT_TRUE(picture.save(path));
     EXPECT_TRUE(QFileInfo::exists(path));
+    h.grid().SetCallbackSink(nullptr);
+}
+
+TEST(GridPainting, TheExampleGridWithADropListOpenAsAPicture) {
+    GridHarness h;
+    h.grid().SetCallbackSink(nullptr);
+    demo::LoggingSink sink([](const std::string&) {});
+    h.grid().SetCallbackSink(&sink);
+    demo::FillDemoGrid(h.grid());
+    h.grid().window()->resize(460, 420);
+    QApplication::processEvents();
+    h.Select(8);  // the list that asks NeedData for its eleven entries
+    h.ClickButton();
+    ASSERT_TRUE(h.DropList()->isVisible());
+
+    // The pop-up is a window of its own: laid over the grid where it stands.
+    QWidget* window = h.grid().window();
+    QImage picture = window->grab().toImage();
+    {
+        QPainter painter(&picture);
+        painter.drawPixmap(h.DropList()->mapToGlobal(QPoint(0, 0)) - window->mapToGlobal(QPoint(0, 0)), h.DropList()->grab());
+    }
+    const QString path = QString(GRID_SCREENSHOT_DIR) + "/grid-demo-droplist.png";
+    ASSERT_TRUE(picture.save(path));
+    h.Key(h.DropEntries(), Qt::Key_Escape);
     h.grid().SetCallbackSink(nullptr);
 }
 
