@@ -38,9 +38,10 @@ void OptionItem::LoadElement(const pugi::xml_node& node) {
     }
 }
 
-void Options::Add(const std::shared_ptr<OptionItem>& item, const std::string& key) {
-    if (!item) return;
+bool Options::Add(const std::shared_ptr<OptionItem>& item, const std::string& key) {
+    if (!item) return false;
     items_.Add(item, key);
+    return true;
 }
 
 void Options::LoadElement(const pugi::xml_node& node) {

@@ -27,12 +27,14 @@ public:
 // Named groups of named values, as they stand in a file's Options element.
 class Options {
 public:
-    // Ignores an empty item; an empty key adds without a key.
-    void Add(const std::shared_ptr<OptionItem>& item, const std::string& key);
+    // Ignores an empty item (false); an empty key adds without a key; a key
+    // that exists is error 457 for the caller's handler.
+    bool Add(const std::shared_ptr<OptionItem>& item, const std::string& key);
     std::shared_ptr<OptionItem> Item(const CollectionPosition& position) const { return items_.ItemAt(position); }
     std::shared_ptr<OptionItem> Find(std::string_view name) const { return items_.Find(name); }
     std::int32_t Count() const noexcept { return items_.Count(); }
-    void Remove(const CollectionPosition& position) { items_.RemoveAt(position); }
+    // False when the position names no group.
+    bool Remove(const CollectionPosition& position) { return items_.TryRemoveAt(position); }
 
     auto begin() const { return items_.begin(); }
     auto end() const { return items_.end(); }
