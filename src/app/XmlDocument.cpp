@@ -3,7 +3,10 @@
 #include "support/TextCompare.h"
 #include "support/VbError.h"
 #include "support/FileBytes.h"
+#include "app/XmlCheck.h"
+#include "app/XmlEncoding.h"
 
+#include <algorithm>
 
 namespace flowloom {
 
@@ -44,20 +47,37 @@ bool XmlDocument::Load(const std::filesystem::path& path) {
     return LoadXml(*text);
 }
 
-bool XmlDocument::LoadXml(std::string_view text) {
+bool XmlDocument::LoadXml(std::string_view bytes) {
     error_ = {};
-    pugi::xml_parse_result result = document_.load_buffer(text.data(), text.size(), kParseOptions, pugi::encoding_auto);
+    document_.reset();
+    // pugixml takes much that a conformant parser refuses (bytes that are no
+    // UTF-8, forbidden characters, names that are no qualified names,
+    // duplicate attributes, a second root). The run-time reads the file with
+    // a conformant parser, so the text is checked first and pugixml only
+    // builds the tree.
+    std::string converted;
+    std::string_view text;
+    XmlSyntaxError syntax;
+    if (!DecodeXmlText(bytes, converted, text, syntax)) {
+        SetParseError(syntax.offset, syntax.reason, text);
+        return false;
+    }
+    if (std::optional<XmlSyntaxError> error = CheckXmlDocument(text)) {
+        SetParseError(error->offset, error->reason, text);
+        return false;
+    }
+    pugi::xml_parse_result result = document_.load_buffer(text.data(), text.size(), kParseOptions, pugi::encoding_utf8);
     if (result && !document_.document_element()) result.status = pugi::status_no_document_element;
     if (!result) {
-        SetParseError(result, text);
+        SetParseError(static_cast<std::size_t>(std::max<std::ptrdiff_t>(result.offset, 0)), ReasonText(result.status), text);
         document_.reset();
         return false;
     }
     return true;
 }
 
-void XmlDocument::SetParseError(const pugi::xml_parse_result& result, std::string_view text) {
-    std::size_t offset = std::min<std::size_t>(static_cast<std::size_t>(std::max<std::ptrdiff_t>(result.offset, 0)), text.size());
+void XmlDocument::SetParseError(std::size_t offset, std::string reason, std::string_view text) {
+    offset = std::min(offset, text.size());
     int line = 1;
     std::size_t lineStart = 0;
     for (std::size_t i = 0; i < offset; ++i)
@@ -69,7 +89,7 @@ void XmlDocument::SetParseError(const pugi::xml_parse_result& result, std::strin
     if (lineEnd == std::string_view::npos) lineEnd = text.size();
     std::string src(text.substr(lineStart, lineEnd - lineStart));
     if (!src.empty() && src.back() == '\r') src.pop_back();
-    error_ = {line, ReasonText(result.status), std::move(src)};
+    error_ = {line, std::move(reason), std::move(src)};
 }
 
 void XmlDocument::AppendDeclaration() {
@@ -79,113 +99,6 @@ void XmlDocument::AppendDeclaration() {
 }
 
 std::string XmlDocument::XML(std::size_t sizeHint) const { return SerializeNode(document_, sizeHint); }
-
-namespace {
-
-// Escapes for attribute values: the markup characters as entities, control
-// characters (line breaks, tabs) as character references, so that every
-// value survives a round trip unchanged.
-void AppendEscaped(std::string& out, const char* text, bool attribute) {
-    const char* run = text;  // start of the characters that need no escape
-    for (const char* p = text;; ++p) {
-        const unsigned char c = static_cast<unsigned char>(*p);
-        const bool special = c == '&' || c == '<' || c == '>' || (c == '"' && attribute) ||
-                             (c < 0x20 && c != 0 && (attribute || (c != '\n' && c != '\t' && c != '\r')));
-        if (!special && c != 0) continue;
-        out.append(run, static_cast<std::size_t>(p - run));
-        if (c == 0) return;
-        switch (c) {
-        case '&': out += "&amp;"; break;
-        case '<': out += "&lt;"; break;
-        case '>': out += "&gt;"; break;
-        case '"': out += "&quot;"; break;
-        default:
-            out += "&#";
-            out += std::to_string(c);
-            out += ';';
-        }
-        run = p + 1;
-    }
-}
-
-void AppendAttributes(std::string& out, const pugi::xml_node& node) {
-    for (const pugi::xml_attribute& a : node.attributes()) {
-        out += ' ';
-        out += a.name();
-        out += "=\"";
-        AppendEscaped(out, a.value(), true);
-        out += '"';
-    }
-}
-
-void AppendNode(std::string& out, const pugi::xml_node& node);
-
-void AppendChildren(std::string& out, const pugi::xml_node& node) {
-    for (const pugi::xml_node& child : node.children()) AppendNode(out, child);
-}
-
-void AppendElement(std::string& out, const pugi::xml_node& node) {
-    out += '<';
-    out += node.name();
-    AppendAttributes(out, node);
-    if (!node.first_child()) {
-        out += "/>";
-        return;
-    }
-    out += '>';
-    AppendChildren(out, node);
-    out += "</";
-    out += node.name();
-    out += '>';
-}
-
-void AppendNode(std::string& out, const pugi::xml_node& node) {
-    switch (node.type()) {
-    case pugi::node_document: AppendChildren(out, node); break;
-    case pugi::node_element: AppendElement(out, node); break;
-    case pugi::node_declaration:
-        out += "<?";
-        out += node.name();
-        AppendAttributes(out, node);
-        out += "?>";
-        break;
-    case pugi::node_pi:
-        out += "<?";
-        out += node.name();
-        if (*node.value()) {
-            out += ' ';
-            out += node.value();
-        }
-        out += "?>";
-        break;
-    case pugi::node_pcdata: AppendEscaped(out, node.value(), false); break;
-    case pugi::node_cdata:
-        out += "<![CDATA[";
-        out += node.value();
-        out += "]]>";
-        break;
-    case pugi::node_comment:
-        out += "<!--";
-        out += node.value();
-        out += "-->";
-        break;
-    case pugi::node_doctype:
-        out += "<!DOCTYPE ";
-        out += node.value();
-        out += '>';
-        break;
-    default: break;
-    }
-}
-
-}  // namespace
-
-std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint) {
-    std::string out;
-    out.reserve(sizeHint);
-    AppendNode(out, node);
-    return out;
-}
 
 bool NameIs(const pugi::xml_attribute& attribute, std::string_view name) {
     return EqualsNoCase(attribute.name(), name);

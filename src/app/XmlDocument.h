@@ -17,17 +17,21 @@ struct XmlParseError {
 };
 
 // The XML document object of the system, on pugixml: load with a parse
-// error, the document element, serialisation and save. Serialised text is
-// the declaration followed by the root element, with no white space between
-// elements and no line break anywhere; in attribute values &, <, > and " are
-// entities and control characters (line breaks, tabs) character references.
+// error, the document element, serialisation and save. Loading is as strict
+// as a conformant parser (see CheckXmlDocument): what it refuses is a parse
+// error like any other. Serialised text is the declaration followed by the
+// root element, with no white space between elements and no line break
+// anywhere; in attribute values &, <, > and " are entities and tabs and line
+// breaks character references. It is always well-formed (see SerializeNode).
 class XmlDocument {
 public:
     XmlDocument() = default;
 
     // Parses a file; false when it cannot be read or does not parse.
     bool Load(const std::filesystem::path& path);
-    bool LoadXml(std::string_view text);
+    // Parses the bytes of a document: UTF-8, UTF-16 with a byte order mark,
+    // or the 8-bit encoding its declaration names (ISO-8859-1, US-ASCII).
+    bool LoadXml(std::string_view bytes);
 
     // The root element; a null node after a failed parse or for a new document.
     pugi::xml_node DocumentElement() const { return document_.document_element(); }
@@ -43,13 +47,17 @@ public:
     std::string XML(std::size_t sizeHint = 0) const;
 
 private:
-    void SetParseError(const pugi::xml_parse_result& result, std::string_view text);
+    void SetParseError(std::size_t offset, std::string reason, std::string_view text);
 
     pugi::xml_document document_;
     XmlParseError error_;
 };
 
-// The serialised text of one node (an element or a whole document).
+// The serialised text of one node (an element or a whole document). It is
+// well-formed whatever the tree holds: characters XML does not allow, and
+// bytes that are no UTF-8, become U+FFFD; an attribute whose name is no
+// qualified name with a declared prefix, or that repeats another, is left
+// out, and so is such an element with its content.
 std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint = 0);
 
 // Attribute-name comparison of the readers: without regard to case.

@@ -6,7 +6,6 @@
 #include "model/Processes.h"
 #include "support/AppPaths.h"
 
-#include <filesystem>
 #include <functional>
 #include <map>
 
@@ -37,9 +36,22 @@ const char* const kHelp =
     "converted and written back at once. Message boxes go to stderr as\n"
     "'message: TEXT', reported errors as 'error NUMBER: DESCRIPTION'. Reports and\n"
     "macros are written as the text window would show them, with CR LF line ends.\n"
+    "A file that does not load as a processes file is replaced by an empty one; a\n"
+    "line on stderr tells where its backup keeps the old content.\n"
     "Exit codes: 0 success (verify: nothing found), 1 the command ran and found a\n"
-    "problem (verify: findings), 2 bad arguments, an unknown process or a file\n"
-    "that could not be read.\n";
+    "problem (verify: findings; save: the new content did not reach OUT; any\n"
+    "command whose load had to rewrite the file and could not), 2 bad arguments,\n"
+    "an unknown process or a file that could not be read.\n";
+
+// When loading replaced a file that was no processes file: one line that says
+// so and where the old content is.
+void TellReplaced(Context& ctx, const std::string& file, const Processes& processes) {
+    const Processes::LoadRewrite& rewrite = processes.LastLoadRewrite();
+    if (rewrite.notLoadedReason.empty()) return;
+    ctx.err << "flowloom-cli: " << file << " could not be read as a processes file ("
+            << OneLine(rewrite.notLoadedReason) << "); it was replaced by an empty one, the old content is in "
+            << rewrite.backup << '\n';
+}
 
 }  // namespace
 
@@ -48,6 +60,7 @@ std::shared_ptr<Processes> LoadFile(Context& ctx, const std::string& file, int& 
     const int errorsBefore = ctx.prompts.ErrorCount();
     const int messagesBefore = ctx.prompts.MessageCount();
     processes->Load(file);
+    TellReplaced(ctx, file, *processes);
     if (processes->Complete() != Processes::Loaded) {
         if (!processes->ErrorString().empty())
             ctx.err << "flowloom-cli: cannot read " << file << ": " << OneLine(processes->ErrorString()) << '\n';
@@ -57,8 +70,13 @@ std::shared_ptr<Processes> LoadFile(Context& ctx, const std::string& file, int& 
         return nullptr;
     }
     const bool quiet = ctx.prompts.ErrorCount() == errorsBefore && ctx.prompts.MessageCount() == messagesBefore;
-    status = quiet ? kOk : kProblem;
+    status = quiet && !LoadRewriteFailed(*processes) ? kOk : kProblem;
     return processes;
+}
+
+bool LoadRewriteFailed(const Processes& processes) {
+    const Processes::LoadRewrite& rewrite = processes.LastLoadRewrite();
+    return rewrite.attempted && !rewrite.written;
 }
 
 std::shared_ptr<Process> FindProcess(Context& ctx, const Processes& processes, const std::string& name) {
@@ -99,9 +117,8 @@ int Save(Context& ctx) {
     int status = kOk;
     auto processes = LoadFile(ctx, ctx.args[1], status);
     if (!processes) return status;
-    processes->Save(ctx.args[2]);
-    std::error_code ec;
-    return std::filesystem::exists(ctx.args[2], ec) ? status : kProblem;
+    // An older OUT may well exist: only the result tells whether the new content reached it.
+    return processes->Save(ctx.args[2]) ? status : kProblem;
 }
 
 }  // namespace

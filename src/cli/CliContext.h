@@ -32,6 +32,10 @@ struct Context {
 // is kProblem when loading showed a message or reported an error.
 std::shared_ptr<Processes> LoadFile(Context& ctx, const std::string& file, int& status);
 
+// Whether loading had to write the file back (the version step) and could not:
+// a command that did its work all the same ends with kProblem.
+bool LoadRewriteFailed(const Processes& processes);
+
 // The process whose name equals `name` without regard to case; nullptr with
 // a line on stderr when there is none.
 std::shared_ptr<Process> FindProcess(Context& ctx, const Processes& processes, const std::string& name);

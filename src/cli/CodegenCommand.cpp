@@ -36,14 +36,15 @@ int CodegenCommand(Context& ctx) {
     const auto process = FindProcess(ctx, *processes, ctx.args[2]);
     if (!process) return kUsage;
     // The generated text reaches stdout through the text window of the prompts.
+    const int loaded = LoadRewriteFailed(*processes) ? kProblem : kOk;
     if (mode == "classes") {
         GenerateCodeWithoutXML(processes, process);
-        return kOk;
+        return loaded;
     }
     std::error_code ec;
     const auto absolute = std::filesystem::absolute(ctx.args[1], ec);
     processes->SetProcessesFile(ec ? ctx.args[1] : absolute.lexically_normal().string());
-    return GenerateCodeWithXML(processes, process) ? kOk : kProblem;
+    return GenerateCodeWithXML(processes, process) ? loaded : kProblem;
 }
 
 }  // namespace flowloom::cli

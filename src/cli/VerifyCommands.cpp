@@ -31,7 +31,8 @@ int VerifyCommand(Context& ctx) {
     if (!processes) return kUsage;
     const auto process = FindProcess(ctx, *processes, ctx.args[2]);
     if (!process) return kUsage;
-    return WriteReport(ctx, process) ? kProblem : kOk;
+    const bool found = WriteReport(ctx, process);
+    return found || LoadRewriteFailed(*processes) ? kProblem : kOk;
 }
 
 int VerifyAllCommand(Context& ctx) {
@@ -44,7 +45,7 @@ int VerifyAllCommand(Context& ctx) {
         ctx.out << "== " << process->name() << "\r\n";
         found = WriteReport(ctx, process) || found;
     }
-    return found ? kProblem : kOk;
+    return found || LoadRewriteFailed(*processes) ? kProblem : kOk;
 }
 
 }  // namespace flowloom::cli

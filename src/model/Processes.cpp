@@ -1,26 +1,16 @@
 #include "model/Processes.h"
 
-#include "app/ErrorNumbers.h"
 #include "support/ReportError.h"
 #include "support/TextCompare.h"
 #include "support/VbStrings.h"
 #include "model/Databases.h"
 #include "model/Groups.h"
 #include "model/Process.h"
-#include "support/AtomicFile.h"
-#include "support/FileBytes.h"
 #include "model/xml/CProcessesXMLDoc.h"
-#include "model/xml/UpdateVersion.h"
 #include "options/Options.h"
-#include "support/AppPaths.h"
 #include "support/Prompts.h"
 
-#include <filesystem>
-
 namespace flowloom {
-
-namespace fs = std::filesystem;
-
 
 Processes::Processes(Passkey)
     : databases_(std::make_shared<flowloom::Databases>()), options_(std::make_shared<flowloom::Options>()) {}
@@ -44,54 +34,6 @@ const std::string& Processes::SourceXML() const {
         sourceXmlReady_ = true;
     }
     return sourceXml_;
-}
-
-void Processes::Load(const std::string& fileName, std::shared_ptr<void> application) {
-    try {
-        application_ = std::move(application);
-        if (!fileName.empty()) processesFile_ = fileName;
-        bool exists = true;
-        if (processesFile_.empty()) {
-            processesFile_ = (WritableProgramFolder() / kDefaultProcessesFileName).string();
-            std::error_code ec;
-            exists = fs::is_regular_file(processesFile_, ec);
-        } else {
-            std::error_code ec;
-            if (!fs::is_regular_file(processesFile_, ec))
-                throw VbError(errnum::ProcessesFileDoesNotExist,
-                              errnum::Description(errnum::ProcessesFileDoesNotExist, {processesFile_}), "Velorin");
-        }
-        if (exists) {
-            sourceXmlReady_ = false;
-            sourceXml_.clear();
-            loadedText_ = ReadFileBytes(processesFile_).value_or(std::string());
-            lastXmlSize_ = loadedText_.size();
-            XmlDocument document;
-            document.LoadXml(loadedText_);
-            CheckLoadedDocument(document);
-        }
-        // Old files are converted and written back at once; a new one is created.
-        if (version_ != 1) {
-            UpdateVersion(*this);
-            Save({});
-        }
-    } catch (...) {
-        ReportPendingError("Processes", "Load");
-    }
-}
-
-void Processes::CheckLoadedDocument(XmlDocument& document) {
-    try {
-        if (!document.DocumentElement()) {
-            const XmlParseError& error = document.ParseError();
-            errorString_ = "Error: Line " + std::to_string(error.line) + "\r\n" + error.reason + "\r\n" + error.srcText;
-            complete_ = Failed;
-            return;
-        }
-        complete_ = ReadRoot(document.Native().child("Processes")) ? Loaded : Failed;
-    } catch (...) {
-        ReportPendingError("Processes", "CheckLoadedDocument");
-    }
 }
 
 bool Processes::ReadRoot(const pugi::xml_node& root) {
@@ -132,44 +74,6 @@ bool Processes::ReadContents(const pugi::xml_node& root) {
         auto options = std::make_shared<flowloom::Options>();
         options->LoadElement(node);
         options_ = options;
-    }
-    return true;
-}
-
-bool Processes::Save(const std::string& fileName) {
-    try {
-        std::unique_ptr<XmlDocument> document = CProcessesXMLDoc().Generate(*this);
-        if (!document) RaiseStandardError(vberr::ObjectRequired);
-        const std::string target = fileName.empty() ? processesFile_ : fileName;
-        const fs::path folder = fs::path(target).parent_path();
-        std::error_code ec;
-        if (!fs::is_directory(folder.empty() ? fs::path(".") : folder, ec)) {
-            MsgBox("The folder '" + folder.string() + "' does not exist.", msgbox::Exclamation);
-            return false;
-        }
-        return WriteFile(target, *document);
-    } catch (...) {
-        ReportPendingError("Processes", "Processes.Save");
-        return false;
-    }
-}
-
-bool Processes::WriteFile(const std::string& target, const XmlDocument& document) {
-    std::error_code ec;
-    std::string backup;
-    if (fs::exists(target, ec)) {
-        backup = target + "." + vb::Right(vb::SerialNowText(), 9) + ".bak";
-        fs::copy_file(target, backup, fs::copy_options::overwrite_existing);
-    }
-    const std::string text = document.XML(lastXmlSize_);
-    lastXmlSize_ = text.size();
-    WriteFileAtomically(target, text);
-    // A new file shorter than the old one keeps its backup: the safety net
-    // against a truncated save.
-    if (!backup.empty()) {
-        const auto newSize = fs::file_size(target, ec);
-        const auto oldSize = ec ? 0 : fs::file_size(backup, ec);
-        if (!ec && newSize >= oldSize) fs::remove(backup, ec);
     }
     return true;
 }

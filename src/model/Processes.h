@@ -10,6 +10,9 @@
 
 namespace flowloom {
 
+enum class BackupRule;
+struct SaveOutcome;
+
 // The contents of one processes file: processes, databases, groups and
 // options, with loading and saving. Always owned through a shared_ptr (use
 // Create); Dispose breaks the back references and must be called when the
@@ -46,10 +49,26 @@ public:
 
     // Loads the file (the default file in the writable program folder when
     // the name is empty and none is set). A file of another version than 1
-    // is converted and saved at once.
+    // is converted and saved at once, and so is one that does not load as a
+    // processes file (it is replaced by what the model holds). A file that
+    // exists but cannot be read is reported and left alone.
     void Load(const std::string& fileName, std::shared_ptr<void> application = {});
+
+    // What the version step of the last Load did to the file.
+    struct LoadRewrite {
+        bool attempted = false;  // it saved the file at once
+        bool written = false;    // and the new content reached the file
+        // When the file it replaced did not load as a processes file: why
+        // not, and the backup that keeps what the file held.
+        std::string notLoadedReason;
+        std::string backup;
+    };
+    const LoadRewrite& LastLoadRewrite() const noexcept { return loadRewrite_; }
+
     // Writes the file (ProcessesFile when the name is empty) with a backup
-    // of the old one; false when the folder is missing or writing failed.
+    // of the old one (see SaveFileSafely; the backup stays when the new file
+    // is shorter). True only when the new content reached the file; a
+    // missing folder gives its message, any other failure is reported.
     bool Save(const std::string& fileName);
     // The serialised document as Save would write it.
     std::string XML();
@@ -78,7 +97,9 @@ private:
     void CheckLoadedDocument(XmlDocument& document);
     bool ReadRoot(const pugi::xml_node& root);
     bool ReadContents(const pugi::xml_node& root);
-    bool WriteFile(const std::string& target, const XmlDocument& document);
+    void RewriteLoadedFile(bool replacesUnloaded);
+    SaveOutcome SaveWith(const std::string& fileName, BackupRule rule);
+    SaveOutcome WriteFile(const std::string& target, const XmlDocument& document, BackupRule rule);
 
     KeyedCollection<Process> processes_;
     // The text of the last load: the parsed document is not kept, since a
@@ -87,6 +108,8 @@ private:
     std::shared_ptr<void> application_;
     std::string processesFile_;
     std::string errorString_;
+    std::string notLoadedReason_;  // why the last Load's document did not load
+    LoadRewrite loadRewrite_;
     std::int32_t complete_ = NotLoaded;
     mutable std::string sourceXml_;
     mutable bool sourceXmlReady_ = false;

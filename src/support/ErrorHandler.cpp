@@ -5,10 +5,17 @@
 #include "support/Prompts.h"
 #include "support/LocalTime.h"
 #include "support/SystemInfo.h"
+#include "support/UniqueFd.h"
+
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <ctime>
 #include <fstream>
+#include <iostream>
 #include <iterator>
 #include <sstream>
 #include <vector>
@@ -134,8 +141,17 @@ int ErrorHandler::AskRetry(ErrorBox box, const std::string& comment) const {
 }
 
 void ErrorHandler::AppendToLog(const std::string& longText) const {
-    std::ofstream log(LogFilePath(), std::ios::binary | std::ios::app);
-    log << FormatLocalTime("%Y-%m-%d %H:%M:%S") << ' ' << longText << "\r\n";
+    const std::filesystem::path path = LogFilePath();
+    const std::string record = FormatLocalTime("%Y-%m-%d %H:%M:%S") + ' ' + longText + "\r\n";
+    const UniqueFd log(::open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644));
+    if (log && ::write(log.Get(), record.data(), record.size()) == static_cast<ssize_t>(record.size())) return;
+    // Neither the program's folder nor the state folder takes the log: say so
+    // once rather than lose the records without a word.
+    static bool told = false;
+    if (told) return;
+    told = true;
+    std::cerr << AppTitle() << ": cannot write the error log " << path.string() << " (" << std::strerror(errno)
+              << "); errors are not recorded\n";
 }
 
 int ErrorHandler::ShowPlain(ErrorBox box, const std::string& shortText) const {

@@ -1,17 +1,44 @@
 #include "support/FileBytes.h"
 
-#include <fstream>
+#include "support/UniqueFd.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 
 namespace flowloom {
 
 std::optional<std::string> ReadFileBytes(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary | std::ios::ate);
-    if (!in) return std::nullopt;
-    const std::streamoff size = in.tellg();
-    if (size < 0) return std::nullopt;
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    in.seekg(0);
-    if (size > 0 && !in.read(bytes.data(), size)) return std::nullopt;
+    std::error_code ignored;
+    return ReadFileBytes(path, ignored);
+}
+
+std::optional<std::string> ReadFileBytes(const std::filesystem::path& path, std::error_code& error) {
+    error.clear();
+    const UniqueFd fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    struct stat st {};
+    if (!fd || ::fstat(fd.Get(), &st) != 0) {
+        error.assign(errno, std::generic_category());
+        return std::nullopt;
+    }
+    // One read for the size the file claims; files that claim none (or
+    // grow) are read on until the end.
+    std::string bytes(static_cast<std::size_t>(st.st_size > 0 ? st.st_size : 0) + 1, '\0');
+    std::size_t filled = 0;
+    for (;;) {
+        if (filled == bytes.size()) bytes.resize(bytes.size() * 2);
+        const ssize_t n = ::read(fd.Get(), bytes.data() + filled, bytes.size() - filled);
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) {
+            error.assign(errno, std::generic_category());
+            return std::nullopt;
+        }
+        if (n == 0) break;
+        filled += static_cast<std::size_t>(n);
+    }
+    bytes.resize(filled);
     return bytes;
 }
 

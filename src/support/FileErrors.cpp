@@ -17,16 +17,22 @@ bool IsFolder(const fs::path& path) {
 
 }  // namespace
 
-void RaiseFileError(const std::error_code& error, bool folderMeant) {
-    if (error == std::errc::file_exists || error == std::errc::directory_not_empty)
-        throw VbError(58, "File already exists");
-    if (error == std::errc::no_such_file_or_directory)
-        RaiseStandardError(folderMeant ? vberr::PathNotFound : vberr::FileNotFound);
-    if (error == std::errc::no_space_on_device) RaiseStandardError(61);
+std::int32_t FileErrorNumber(const std::error_code& error, bool folderMeant) {
+    if (error == std::errc::file_exists || error == std::errc::directory_not_empty) return 58;
+    if (error == std::errc::no_such_file_or_directory) return folderMeant ? vberr::PathNotFound : vberr::FileNotFound;
+    if (error == std::errc::no_space_on_device || error.value() == EDQUOT) return 61;
+    if (error == std::errc::io_error) return 57;
     if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
         error == std::errc::read_only_file_system)
-        RaiseStandardError(70);
-    throw VbError(75, StandardErrorText(75) + ": " + error.message());
+        return 70;
+    return 75;
+}
+
+void RaiseFileError(const std::error_code& error, bool folderMeant) {
+    const std::int32_t number = FileErrorNumber(error, folderMeant);
+    if (number == 58) throw VbError(58, "File already exists");
+    if (number == 75) throw VbError(75, StandardErrorText(75) + ": " + error.message());
+    RaiseStandardError(number);
 }
 
 void MovePath(const fs::path& from, const fs::path& to) {

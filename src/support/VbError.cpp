@@ -24,6 +24,7 @@ std::string StandardErrorText(std::int32_t number) {
     case vberr::InternalError: return "Internal error";
     case 52: return "Bad file name or number";
     case vberr::FileNotFound: return "File not found";
+    case 57: return "Device I/O error";
     case 61: return "Disk full";
     case 70: return "Permission denied";
     case 75: return "Path/File access error";

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <iterator>
 
@@ -58,6 +59,23 @@ TEST_F(Handler, TheLogIsAppendedNeverRewritten) {
     const std::string log = Log();
     EXPECT_LT(log.find("first"), log.find("second"));
     EXPECT_EQ(std::count(log.begin(), log.end(), '\n'), 4);  // two records of two lines each
+}
+
+TEST_F(Handler, ALogThatNoFolderTakesIsToldOnceOnStderr) {
+    // A program folder that is a file, and a state folder beneath that file.
+    WriteAll(folder / "program", "");
+    SetProgramFolder(folder / "program");
+    const char* saved = std::getenv("XDG_STATE_HOME");
+    const std::string before = saved ? saved : "";
+    ::setenv("XDG_STATE_HOME", (folder / "program" / "state").c_str(), 1);
+    ::testing::internal::CaptureStderr();
+    Show(30021, "first", true);
+    Show(30021, "second", true);
+    const std::string said = ::testing::internal::GetCapturedStderr();
+    if (saved) ::setenv("XDG_STATE_HOME", before.c_str(), 1);
+    else ::unsetenv("XDG_STATE_HOME");
+    EXPECT_EQ(said, "Flowloom: cannot write the error log " + (folder / "program/state/flowloom/errorlog.txt").string() +
+                        " (Not a directory); errors are not recorded\n");
 }
 
 TEST_F(Handler, HandledByTheCallerLogsWithoutABox) {

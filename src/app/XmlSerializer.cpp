@@ -1,0 +1,223 @@
+// The serialiser of the XML layer. Whatever a document holds, the text it
+// makes is well-formed: a character XML does not allow (or bytes that are no
+// UTF-8) is written as U+FFFD, an attribute whose name cannot stand is left
+// out, and so is an element whose name cannot stand, with its content.
+#include "app/XmlDocument.h"
+
+#include "app/XmlChars.h"
+#include "app/XmlNamespaces.h"
+
+#include <cstring>
+#include <vector>
+
+namespace flowloom {
+
+namespace {
+
+constexpr std::string_view kReplacementUtf8 = "\xEF\xBF\xBD";
+
+// ASCII bytes written as they are: in text, and in attribute values.
+struct PlainBytes {
+    bool text[256] = {};
+    bool value[256] = {};
+    constexpr PlainBytes() {
+        for (int c = 0x20; c < 0x80; ++c) text[c] = value[c] = c != '&' && c != '<' && c != '>';
+        value['"'] = false;
+        text['\t'] = text['\n'] = true;
+    }
+};
+constexpr PlainBytes kPlain;
+
+// Escapes for attribute values and text: the markup characters as entities;
+// tab, line feed and carriage return in attribute values (and carriage
+// return in text) as character references, so that a parser hands back
+// exactly what was written.
+void AppendEscaped(std::string& out, std::string_view text, bool attribute) {
+    const bool(&plain)[256] = attribute ? kPlain.value : kPlain.text;
+    std::size_t run = 0;  // start of the characters that go out as they are
+    std::size_t pos = 0;
+    while (pos < text.size()) {
+        const std::size_t at = pos;
+        const unsigned char byte = static_cast<unsigned char>(text[pos]);
+        if (plain[byte]) {
+            ++pos;
+            continue;
+        }
+        if (byte >= 0x80) {
+            const char32_t c = xmlchars::NextChar(text, pos);
+            if (c != xmlchars::kNotUtf8 && xmlchars::IsXmlChar(c)) continue;
+            out.append(text, run, at - run);
+            out += kReplacementUtf8;
+            run = pos;
+            continue;
+        }
+        ++pos;
+        const char* escape = kReplacementUtf8.data();  // for the control characters
+        switch (byte) {
+        case '&': escape = "&amp;"; break;
+        case '<': escape = "&lt;"; break;
+        case '>': escape = "&gt;"; break;
+        case '"': escape = "&quot;"; break;
+        case '\t': escape = "&#9;"; break;
+        case '\n': escape = "&#10;"; break;
+        case '\r': escape = "&#13;"; break;
+        default: break;
+        }
+        out.append(text, run, at - run);
+        out += escape;
+        run = pos;
+    }
+    out.append(text, run, text.size() - run);
+}
+
+// Text that needs no escapes (comments, CDATA, processing instructions), with
+// the characters XML does not allow replaced.
+std::string Allowed(std::string_view text) {
+    std::string out;
+    out.reserve(text.size());
+    for (std::size_t pos = 0; pos < text.size();) {
+        const std::size_t at = pos;
+        const char32_t c = xmlchars::NextChar(text, pos);
+        if (c != xmlchars::kNotUtf8 && xmlchars::IsXmlChar(c)) out.append(text, at, pos - at);
+        else out += kReplacementUtf8;
+    }
+    return out;
+}
+
+std::string ReplaceAll(std::string text, std::string_view what, std::string_view with) {
+    for (std::size_t pos = 0; (pos = text.find(what, pos)) != std::string::npos; pos += with.size())
+        text.replace(pos, what.size(), with);
+    return text;
+}
+
+bool IsReservedTarget(std::string_view target) {
+    return target.size() == 3 && (target[0] | 0x20) == 'x' && (target[1] | 0x20) == 'm' && (target[2] | 0x20) == 'l';
+}
+
+// Walks a tree without recursion, so that nesting depth costs no machine stack.
+class Serializer {
+public:
+    explicit Serializer(std::string& out) : out_(out) {}
+    void Write(const pugi::xml_node& top);
+
+private:
+    // Writes the node, or the start of it when its children follow (true).
+    bool Open(const pugi::xml_node& node);
+    bool OpenElement(const pugi::xml_node& node);
+    void Close(const pugi::xml_node& node);
+    void Declaration(const pugi::xml_node& node);
+    void Misc(const pugi::xml_node& node);
+
+    std::string& out_;
+    XmlNamespaceScope namespaces_;
+    std::vector<XmlAttributeView> attributes_;
+    std::vector<const char*> faults_;
+};
+
+void Serializer::Write(const pugi::xml_node& top) {
+    if (!Open(top)) return;
+    pugi::xml_node node = top.first_child();
+    while (node) {
+        if (Open(node)) {
+            node = node.first_child();
+            continue;
+        }
+        while (!node.next_sibling()) {
+            node = node.parent();
+            Close(node);
+            if (node == top) return;
+        }
+        node = node.next_sibling();
+    }
+}
+
+bool Serializer::Open(const pugi::xml_node& node) {
+    switch (node.type()) {
+    case pugi::node_document: return static_cast<bool>(node.first_child());
+    case pugi::node_element: return OpenElement(node);
+    case pugi::node_declaration: Declaration(node); return false;
+    case pugi::node_pcdata: AppendEscaped(out_, node.value(), false); return false;
+    default: Misc(node); return false;
+    }
+}
+
+bool Serializer::OpenElement(const pugi::xml_node& node) {
+    attributes_.clear();
+    for (const pugi::xml_attribute& a : node.attributes()) attributes_.push_back({a.name(), a.value()});
+    if (namespaces_.Open(node.name(), attributes_, faults_)) {
+        namespaces_.Close();
+        return false;
+    }
+    out_ += '<';
+    out_ += node.name();
+    for (std::size_t i = 0; i < attributes_.size(); ++i) {
+        if (faults_[i]) continue;
+        out_ += ' ';
+        out_ += attributes_[i].name;
+        out_ += "=\"";
+        AppendEscaped(out_, attributes_[i].value, true);
+        out_ += '"';
+    }
+    if (node.first_child()) {
+        out_ += '>';
+        return true;
+    }
+    out_ += "/>";
+    namespaces_.Close();
+    return false;
+}
+
+void Serializer::Close(const pugi::xml_node& node) {
+    if (node.type() != pugi::node_element) return;
+    out_ += "</";
+    out_ += node.name();
+    out_ += '>';
+    namespaces_.Close();
+}
+
+// The text is UTF-8 and follows the rules of version 1.0, whatever the
+// declaration of a loaded document said.
+void Serializer::Declaration(const pugi::xml_node& node) {
+    out_ += "<?xml version=\"1.0\"";
+    if (node.attribute("encoding")) out_ += " encoding=\"UTF-8\"";
+    const std::string_view standalone = node.attribute("standalone").value();
+    if (standalone == "yes" || standalone == "no") out_.append(" standalone=\"").append(standalone).append("\"");
+    out_ += "?>";
+}
+
+void Serializer::Misc(const pugi::xml_node& node) {
+    const std::string_view name = node.name();
+    switch (node.type()) {
+    case pugi::node_cdata:
+        out_.append("<![CDATA[").append(ReplaceAll(Allowed(node.value()), "]]>", "]]]]><![CDATA[>")).append("]]>");
+        break;
+    case pugi::node_comment: {
+        std::string text = ReplaceAll(Allowed(node.value()), "--", "- -");
+        if (!text.empty() && text.back() == '-') text += ' ';
+        out_.append("<!--").append(text).append("-->");
+        break;
+    }
+    case pugi::node_pi:
+        if (!xmlchars::IsNCName(name) || IsReservedTarget(name)) break;
+        out_ += "<?";
+        out_ += name;
+        if (*node.value()) out_.append(" ").append(ReplaceAll(Allowed(node.value()), "?>", "? >"));
+        out_ += "?>";
+        break;
+    case pugi::node_doctype:
+        if (xmlchars::IsName(node.value())) out_.append("<!DOCTYPE ").append(node.value()).append(">");
+        break;
+    default: break;
+    }
+}
+
+}  // namespace
+
+std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint) {
+    std::string out;
+    out.reserve(sizeHint);
+    Serializer(out).Write(node);
+    return out;
+}
+
+}  // namespace flowloom

@@ -1,0 +1,148 @@
+// The life cycle of the processes file: Load with its version step, and Save.
+#include "model/Processes.h"
+
+#include "app/ErrorNumbers.h"
+#include "model/xml/CProcessesXMLDoc.h"
+#include "model/xml/UpdateVersion.h"
+#include "support/AppPaths.h"
+#include "support/FileBytes.h"
+#include "support/FileErrors.h"
+#include "support/Prompts.h"
+#include "support/ReportError.h"
+#include "support/SafeSave.h"
+#include "support/VbStrings.h"
+
+#include <filesystem>
+
+namespace flowloom {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void RaiseCannotRead(const std::string& path, const std::error_code& error) {
+    throw VbError(FileErrorNumber(error, false), "Cannot read '" + path + "': " + error.message());
+}
+
+bool IsMissing(const std::error_code& error) {
+    return error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory;
+}
+
+// Whether a regular file of that name exists; a path that cannot even be
+// looked at is an error, not a missing file.
+bool RegularFileExists(const std::string& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (error && !IsMissing(error)) RaiseCannotRead(path, error);
+    return fs::is_regular_file(status);
+}
+
+// "FILE.NNNNNNNNN.bak": the last nine digits of the time as a serial day.
+std::string BackupSuffix() { return "." + vb::Right(vb::SerialNowText(), 9) + ".bak"; }
+
+}  // namespace
+
+void Processes::Load(const std::string& fileName, std::shared_ptr<void> application) {
+    loadRewrite_ = {};
+    notLoadedReason_.clear();
+    try {
+        application_ = std::move(application);
+        if (!fileName.empty()) processesFile_ = fileName;
+        bool exists = true;
+        if (processesFile_.empty()) {
+            processesFile_ = (WritableProgramFolder() / kDefaultProcessesFileName).string();
+            exists = RegularFileExists(processesFile_);
+        } else if (!RegularFileExists(processesFile_)) {
+            throw VbError(errnum::ProcessesFileDoesNotExist,
+                          errnum::Description(errnum::ProcessesFileDoesNotExist, {processesFile_}), "Velorin");
+        }
+        if (exists) {
+            sourceXmlReady_ = false;
+            sourceXml_.clear();
+            // A file that exists but cannot be read ends the Load with its
+            // reason: taken for one that does not parse, the version step
+            // would replace it.
+            std::error_code error;
+            std::optional<std::string> bytes = ReadFileBytes(processesFile_, error);
+            if (!bytes) {
+                complete_ = Failed;
+                RaiseCannotRead(processesFile_, error);
+            }
+            loadedText_ = std::move(*bytes);
+            lastXmlSize_ = loadedText_.size();
+            XmlDocument document;
+            document.LoadXml(loadedText_);
+            CheckLoadedDocument(document);
+        }
+        // Old files are converted and written back at once; a new one is created.
+        if (version_ != 1) {
+            UpdateVersion(*this);
+            RewriteLoadedFile(exists && complete_ != Loaded);
+        }
+    } catch (...) {
+        ReportPendingError("Processes", "Load");
+    }
+}
+
+// The save of the version step. A file that did not load as a processes file
+// is replaced by what the model holds, which is not its content: its backup
+// then stays whatever the lengths, as the only copy of what it held.
+void Processes::RewriteLoadedFile(bool replacesUnloaded) {
+    loadRewrite_.attempted = true;
+    const SaveOutcome outcome = SaveWith({}, replacesUnloaded ? BackupRule::Keep : BackupRule::KeepWhenShorter);
+    loadRewrite_.written = outcome.written;
+    if (!replacesUnloaded || !outcome.written) return;
+    loadRewrite_.notLoadedReason = notLoadedReason_.empty() ? "it did not load" : notLoadedReason_;
+    loadRewrite_.backup = outcome.backup.string();
+}
+
+void Processes::CheckLoadedDocument(XmlDocument& document) {
+    try {
+        if (!document.DocumentElement()) {
+            const XmlParseError& error = document.ParseError();
+            errorString_ = "Error: Line " + std::to_string(error.line) + "\r\n" + error.reason + "\r\n" + error.srcText;
+            notLoadedReason_ = errorString_;
+            complete_ = Failed;
+            return;
+        }
+        // A root of another name fails in ReadRoot, as a call on nothing.
+        if (std::string_view(document.DocumentElement().name()) != "Processes")
+            notLoadedReason_ = "The top level node is not 'Processes'";
+        complete_ = ReadRoot(document.Native().child("Processes")) ? Loaded : Failed;
+    } catch (...) {
+        if (notLoadedReason_.empty()) notLoadedReason_ = PendingError().Description();
+        ReportPendingError("Processes", "CheckLoadedDocument");
+    }
+}
+
+bool Processes::Save(const std::string& fileName) { return SaveWith(fileName, BackupRule::KeepWhenShorter).written; }
+
+SaveOutcome Processes::SaveWith(const std::string& fileName, BackupRule rule) {
+    try {
+        std::unique_ptr<XmlDocument> document = CProcessesXMLDoc().Generate(*this);
+        if (!document) RaiseStandardError(vberr::ObjectRequired);
+        const std::string target = fileName.empty() ? processesFile_ : fileName;
+        const fs::path folder = fs::path(target).parent_path();
+        std::error_code ec;
+        if (!fs::is_directory(folder.empty() ? fs::path(".") : folder, ec)) {
+            MsgBox("The folder '" + folder.string() + "' does not exist.", msgbox::Exclamation);
+            return {};
+        }
+        return WriteFile(target, *document, rule);
+    } catch (...) {
+        ReportPendingError("Processes", "Processes.Save");
+        return {};
+    }
+}
+
+SaveOutcome Processes::WriteFile(const std::string& target, const XmlDocument& document, BackupRule rule) {
+    const std::string text = document.XML(lastXmlSize_);
+    lastXmlSize_ = text.size();
+    // A new file shorter than the old one keeps its backup: the safety net
+    // against a truncated save.
+    SaveOutcome outcome = SaveFileSafely(target, text, BackupSuffix(), rule);
+    if (!outcome.written) throw VbError(outcome.errorNumber, outcome.cause);
+    return outcome;
+}
+
+}  // namespace flowloom

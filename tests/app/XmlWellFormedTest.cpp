@@ -1,0 +1,195 @@
+// The XML layer reads only what a conformant parser reads, and writes only
+// what it reads; libxml2 is the referee of both.
+#include "app/XmlDocument.h"
+#include "testsupport/XmlReferee.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace flowloom::test {
+namespace {
+
+struct Case {
+    const char* what;
+    std::string text;
+};
+
+std::string Serialized(const pugi::xml_node& node) { return SerializeNode(node); }
+
+TEST(XmlReader, RefusesWhatAConformantParserRefuses) {
+    const std::vector<Case> cases = {
+        {"a byte that is no UTF-8", "<a v=\"\xFF\"/>"},
+        {"an overlong form", "<a v=\"\xC0\xBC\"/>"},
+        {"a surrogate in UTF-8", "<a>\xED\xA0\x80</a>"},
+        {"a control character", "<a>\x01</a>"},
+        {"U+FFFE", "<a>\xEF\xBF\xBE</a>"},
+        {"a reference to a control character", "<a v=\"&#26;\"/>"},
+        {"a reference to NUL", "<a>&#0;</a>"},
+        {"a reference to a surrogate", "<a v=\"&#xD800;\"/>"},
+        {"a reference beyond Unicode", "<a>&#x110000;</a>"},
+        {"a name ending in a colon", "<Processes><Fiprintout259:/></Processes>"},
+        {"a name of two colons", "<a:b:c xmlns:a=\"u\"/>"},
+        {"an undeclared prefix", "<a><p:b/></a>"},
+        {"an undeclared attribute prefix", "<a p:x=\"1\"/>"},
+        {"a name starting with a digit", "<1a/>"},
+        {"a duplicate attribute", "<a x=\"1\" x=\"2\"/>"},
+        {"one attribute by two prefixes", "<a xmlns:p=\"u\" xmlns:q=\"u\" p:x=\"1\" q:x=\"2\"/>"},
+        {"an empty prefix declaration", "<a xmlns:p=\"\"/>"},
+        {"the xml prefix rebound", "<a xmlns:xml=\"u\"/>"},
+        {"the xmlns prefix declared", "<a xmlns:xmlns=\"u\"/>"},
+        {"two roots", "<a/><b/>"},
+        {"text before the root", "x<a/>"},
+        {"text after the root", "<a/>x"},
+        {"no root", "<?xml version=\"1.0\"?><!-- only a comment -->"},
+        {"an undefined entity", "<a>&nbsp;</a>"},
+        {"a bare ampersand", "<a v=\"a & b\"/>"},
+        {"'<' in an attribute value", "<a v=\"<\"/>"},
+        {"two hyphens in a comment", "<a><!-- a -- b --></a>"},
+        {"']]>' in text", "<a>]]></a>"},
+        {"a declaration not at the start", " <?xml version=\"1.0\"?><a/>"},
+        {"a processing instruction named XML", "<a><?XmL x?></a>"},
+        {"no white space between attributes", "<a x=\"1\"y=\"2\"/>"},
+        {"version 2.0", "<?xml version=\"2.0\"?><a/>"},
+        {"an unclosed element", "<a><b></a>"},
+        {"an end tag of another name", "<a></b>"},
+        {"UTF-16 declared over UTF-8 bytes", "<?xml version=\"1.0\" encoding=\"UTF-16\"?><a/>"},
+        {"US-ASCII declared over other bytes", "<?xml version=\"1.0\" encoding=\"US-ASCII\"?><a v=\"\xC3\xA9\"/>"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        EXPECT_TRUE(ConformantParserFault(c.text).has_value()) << "the referee takes it";
+        XmlDocument document;
+        EXPECT_FALSE(document.LoadXml(c.text));
+        EXPECT_FALSE(document.DocumentElement());
+        EXPECT_GE(document.ParseError().line, 1);
+        EXPECT_FALSE(document.ParseError().reason.empty());
+    }
+}
+
+TEST(XmlReader, TakesEveryWellFormedDocumentOfTheKindsItMeets) {
+    const std::vector<Case> cases = {
+        {"the usual declaration", "<?xml version=\"1.0\" encoding=\"UTF-8\"?><Processes Version=\"1\"/>"},
+        {"a byte order mark", "\xEF\xBB\xBF<?xml version=\"1.0\"?><a/>"},
+        {"standalone and single quotes", "<?xml version='1.0' encoding='utf-8' standalone='yes'?><a/>"},
+        {"comments, instructions and CDATA", "<!-- c --><?pi data?><a><![CDATA[<&]]><!----><?x?></a><!-- end -->"},
+        {"references", "<a v=\"&lt;&gt;&amp;&apos;&quot;&#9;&#x10FFFF;\">&#xE9;</a>"},
+        {"characters of every plane", "<a v=\"\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80\"/>"},
+        {"declared and used prefixes", "<p:a xmlns:p=\"urn:p\" xmlns=\"urn:d\" p:x=\"1\" x=\"2\"><p:b xml:lang=\"de\"/></p:a>"},
+        {"one local name in two namespaces", "<a xmlns:p=\"urn:p\" xmlns:q=\"urn:q\" p:x=\"1\" q:x=\"2\"/>"},
+        {"a document type without a subset", "<!DOCTYPE Processes SYSTEM \"processes.dtd\"><Processes/>"},
+        {"non-ASCII names", "<\xC3\xA9l\xC3\xA9ment attribut\xC2\xB7x=\"1\"/>"},
+        {"white space in tags", "<a\n  x = \"1\"\t></a >"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        EXPECT_EQ(ConformantParserFault(c.text), std::nullopt);
+        XmlDocument document;
+        EXPECT_TRUE(document.LoadXml(c.text)) << document.ParseError().reason;
+    }
+}
+
+TEST(XmlReader, AViolationIsAParseErrorWithItsLineAndText) {
+    XmlDocument document;
+    ASSERT_FALSE(document.LoadXml("<?xml version=\"1.0\"?>\r\n<a>\r\n<b v=\"&#26;\"/></a>"));
+    EXPECT_EQ(document.ParseError().line, 3);
+    EXPECT_EQ(document.ParseError().srcText, "<b v=\"&#26;\"/></a>");
+    EXPECT_EQ(document.ParseError().reason, "The character reference names a character XML does not allow.");
+}
+
+TEST(XmlReader, OtherEncodingsAreReadIntoUtf8) {
+    XmlDocument latin1;
+    ASSERT_TRUE(latin1.LoadXml("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a v=\"caf\xE9\"/>"));
+    EXPECT_STREQ(latin1.DocumentElement().attribute("v").value(), "caf\xC3\xA9");
+
+    const std::string utf16 = std::string("\xFF\xFE", 2) + std::string("<\0a\0 \0v\0=\0\"\0\xE9\0\"\0/\0>\0", 20);
+    XmlDocument wide;
+    ASSERT_TRUE(wide.LoadXml(utf16)) << wide.ParseError().reason;
+    EXPECT_STREQ(wide.DocumentElement().attribute("v").value(), "\xC3\xA9");
+    // What is written is UTF-8 and says so, whatever was read.
+    EXPECT_EQ(latin1.XML(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?><a v=\"caf\xC3\xA9\"/>");
+
+    XmlDocument lone;
+    EXPECT_FALSE(lone.LoadXml(std::string("\xFF\xFE<\0\x00\xD8", 6)));
+}
+
+TEST(XmlWriter, NeverWritesACharacterXmlForbids) {
+    XmlDocument document;
+    document.AppendDeclaration();
+    pugi::xml_node root = document.Native().append_child("Processes");
+    const std::string bad = "a\x01" "b\x1A" "c\xFF" "d\xC0\x80" "e\xED\xA0\x80" "f\xEF\xBF\xBE" "g";
+    root.append_attribute("Name").set_value(bad.c_str());
+    root.append_child(pugi::node_pcdata).set_value(bad.c_str());
+    root.append_child(pugi::node_comment).set_value("a--b-");
+    root.append_child(pugi::node_cdata).set_value("x]]>y");
+    root.append_child(pugi::node_pi).set_name("tool");
+    root.last_child().set_value("a?>b");
+    const std::string xml = document.XML();
+    EXPECT_EQ(ConformantParserFault(xml), std::nullopt) << xml;
+    const std::string replaced = "a\uFFFDb\uFFFDc\uFFFDd\uFFFD\uFFFDe\uFFFD\uFFFD\uFFFDf\uFFFDg";
+    EXPECT_NE(xml.find("Name=\"" + replaced + "\""), std::string::npos) << xml;
+    XmlDocument again;
+    ASSERT_TRUE(again.LoadXml(xml)) << again.ParseError().reason;
+    EXPECT_EQ(again.DocumentElement().attribute("Name").value(), replaced);
+}
+
+TEST(XmlWriter, LeavesOutNamesThatCannotStand) {
+    pugi::xml_document document;
+    pugi::xml_node root = document.append_child("Options");
+    root.append_child("Fiprintout259:").append_attribute("Kept").set_value("no");
+    pugi::xml_node group = root.append_child("Group");
+    group.append_attribute("1x").set_value("1");
+    group.append_attribute("p:x").set_value("2");
+    group.append_attribute("a").set_value("3");
+    group.append_attribute("a").set_value("4");
+    group.append_attribute("xmlns:e").set_value("");
+    group.append_attribute("e:y").set_value("5");
+    pugi::xml_node prefixed = root.append_child("q:Group");
+    prefixed.append_attribute("xmlns:q").set_value("urn:q");
+    prefixed.append_attribute("q:x").set_value("6");
+    root.append_child("").append_attribute("x").set_value("7");
+    const std::string xml = Serialized(document);
+    EXPECT_EQ(xml, "<Options><Group a=\"3\"/><q:Group xmlns:q=\"urn:q\" q:x=\"6\"/></Options>");
+    EXPECT_EQ(ConformantParserFault(xml), std::nullopt);
+}
+
+TEST(XmlLayer, DeepNestingCostsNoMachineStack) {
+    constexpr int depth = 200000;
+    pugi::xml_document document;
+    pugi::xml_node node = document;
+    for (int i = 0; i < depth; ++i) node = node.append_child("e");
+    const std::string xml = Serialized(document);
+    ASSERT_EQ(xml.size(), depth * std::string("<e></e>").size() - std::string("></e").size() + 1);
+    XmlDocument again;
+    EXPECT_TRUE(again.LoadXml(xml)) << again.ParseError().reason;
+    XmlDocument unclosed;
+    EXPECT_FALSE(unclosed.LoadXml(xml.substr(0, xml.size() - 4)));
+}
+
+TEST(XmlLayer, AnyAttributeValueComesBackOrIsMadeWellFormed) {
+    std::mt19937 random(20240611);
+    std::uniform_int_distribution<int> length(0, 12);
+    std::uniform_int_distribution<int> byte(1, 255);
+    for (int round = 0; round < 3000; ++round) {
+        std::string value;
+        for (int n = length(random); n > 0; --n) value += static_cast<char>(byte(random));
+        XmlDocument document;
+        document.Native().append_child("a").append_attribute("v").set_value(value.c_str());
+        const std::string xml = document.XML();
+        ASSERT_EQ(ConformantParserFault(xml), std::nullopt) << xml;
+        XmlDocument again;
+        ASSERT_TRUE(again.LoadXml(xml)) << again.ParseError().reason << ": " << xml;
+        const std::string back = again.DocumentElement().attribute("v").value();
+        // A value made only of characters XML allows comes back unchanged.
+        const bool allowed = value.find("]]>") == std::string::npos &&
+                             !ConformantParserFault("<a><![CDATA[" + value + "]]></a>");
+        if (allowed) {
+            EXPECT_EQ(back, value);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace flowloom::test
