@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <cstring>
 #include <cstdlib>
 #include <filesystem>
 #include <regex>
@@ -51,7 +52,7 @@ TEST_F(CliSave, ASaveThatDidNotReachAnExistingOutExitsOne) {
     const std::string before = ReadAll(out);
     SetSaveFaultHook([](SaveStep step) { return step == SaveStep::Write ? ENOSPC : 0; });
     EXPECT_EQ(Run({"save", example, out.string()}), 1);
-    EXPECT_EQ(err.str(), "error 61: Disk full: cannot write " + out.string() + " (No space left on device)\n");
+    EXPECT_EQ(err.str(), "error 61: Disk full: cannot write " + out.string() + " (" + std::string(std::strerror(ENOSPC)) + ")\n");
     SetSaveFaultHook({});
 
     ::chmod(out.c_str(), 0444);
@@ -141,7 +142,7 @@ TEST_F(CliSave, AFileThatCannotBeReadIsLeftAlone) {
         std::ostringstream o;
         std::ostringstream e;
         return cli::Run({"list", path.string()}, o, e) == 2 &&
-               e.str() == "error 70: Cannot read '" + path.string() + "': Permission denied\n";
+               e.str() == "error 70: Cannot read '" + path.string() + "': " + std::string(std::strerror(EACCES)) + "\n";
     });
     EXPECT_TRUE(Succeeded(status));
     ::chmod(path.c_str(), 0644);

@@ -11,6 +11,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <cstring>
 #include <filesystem>
 #include <set>
 
@@ -47,7 +48,7 @@ TEST_F(FileLifeCycle, AFileThatCannotBeReadIsReportedAndNeverReplaced) {
         auto processes = Processes::Create();
         processes->Load(path.string());
         return prompts.errors.size() == 1 && prompts.errors[0].number == 70 &&
-               prompts.errors[0].description == "Cannot read '" + path.string() + "': Permission denied" &&
+               prompts.errors[0].description == "Cannot read '" + path.string() + "': " + std::string(std::strerror(EACCES)) &&
                processes->Complete() == Processes::Failed && !processes->LastLoadRewrite().attempted;
     });
     EXPECT_TRUE(Succeeded(status));
@@ -62,7 +63,7 @@ TEST_F(FileLifeCycle, AnInputOutputErrorIsReportedAsSuch) {
     processes->Load("/proc/self/mem");
     ASSERT_EQ(prompts.errors.size(), 1u);
     EXPECT_EQ(prompts.errors[0].number, 57);
-    EXPECT_EQ(prompts.errors[0].description, "Cannot read '/proc/self/mem': Input/output error");
+    EXPECT_EQ(prompts.errors[0].description, "Cannot read '/proc/self/mem': " + std::string(std::strerror(EIO)));
     EXPECT_FALSE(processes->LastLoadRewrite().attempted);
 }
 
@@ -103,7 +104,7 @@ TEST_F(FileLifeCycle, ARewriteThatFailsIsReportedAndTold) {
     ASSERT_EQ(prompts.errors.size(), 1u);
     EXPECT_EQ(prompts.errors[0].number, 61);
     EXPECT_EQ(prompts.errors[0].description,
-              "Disk full: cannot write " + (folder / "processes.xml").string() + " (No space left on device)");
+              "Disk full: cannot write " + (folder / "processes.xml").string() + " (" + std::string(std::strerror(ENOSPC)) + ")");
     EXPECT_EQ(ReadAll(folder / "processes.xml"), old);
     EXPECT_EQ(Names(), std::set<std::string>{"processes.xml"});
 }

@@ -9,7 +9,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <iterator>
 
@@ -75,7 +77,7 @@ TEST_F(Handler, ALogThatNoFolderTakesIsToldOnceOnStderr) {
     if (saved) ::setenv("XDG_STATE_HOME", before.c_str(), 1);
     else ::unsetenv("XDG_STATE_HOME");
     EXPECT_EQ(said, "Flowloom: cannot write the error log " + (folder / "program/state/flowloom/errorlog.txt").string() +
-                        " (Not a directory); errors are not recorded\n");
+                        " (" + std::strerror(ENOTDIR) + "); errors are not recorded\n");
 }
 
 TEST_F(Handler, HandledByTheCallerLogsWithoutABox) {
