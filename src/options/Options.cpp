@@ -2,7 +2,6 @@
 
 #include "support/ReportError.h"
 
-#include <cctype>
 #include <cstring>
 
 namespace flowloom {
@@ -16,14 +15,11 @@ std::shared_ptr<DictionaryCollection> AttributesOf(const pugi::xml_node& element
     return attributes;
 }
 
-// The element's name without a namespace prefix, unless what follows the
-// prefix could not start a name of its own (it is written back as a name).
+// The element's name without a namespace prefix. The reader takes only
+// qualified names, so what follows a prefix is a name of its own.
 std::string BaseName(const char* name) {
     const char* colon = std::strchr(name, ':');
-    if (!colon) return name;
-    const unsigned char first = static_cast<unsigned char>(colon[1]);
-    const bool startsName = std::isalpha(first) || first == '_' || first >= 0x80;
-    return startsName ? std::string(colon + 1) : std::string(name);
+    return colon ? std::string(colon + 1) : std::string(name);
 }
 
 }  // namespace
