@@ -195,13 +195,17 @@ TEST_F(Handler, ReportCarriesTheInformationSectionsThatAreSwitchedOn) {
 TEST_F(Handler, TheFallbackReportFileIsRemovedAfterShowing) {
     prompts.answers = {msgbox::Yes};
     prompts.openUrlSucceeds = false;
-    const auto before = std::distance(std::filesystem::directory_iterator(std::filesystem::temp_directory_path()),
-                                      std::filesystem::directory_iterator());
+    // A temporary folder of the test's own, since other tests use the shared one meanwhile.
+    const auto temporary = folder / "tmp";
+    std::filesystem::create_directory(temporary);
+    const char* saved = std::getenv("TMPDIR");
+    const std::string before = saved ? saved : "";
+    ::setenv("TMPDIR", temporary.c_str(), 1);
     Show(30021, "boom");
-    const auto after = std::distance(std::filesystem::directory_iterator(std::filesystem::temp_directory_path()),
-                                     std::filesystem::directory_iterator());
+    if (saved) ::setenv("TMPDIR", before.c_str(), 1);
+    else ::unsetenv("TMPDIR");
     EXPECT_EQ(prompts.texts.size(), 1u);
-    EXPECT_EQ(before, after);
+    EXPECT_TRUE(std::filesystem::is_empty(temporary));
 }
 
 }  // namespace
