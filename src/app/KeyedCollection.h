@@ -168,10 +168,12 @@ private:
         if (auto* k = std::get_if<std::string>(&position)) return k->empty() ? kNone : FindFolded(FoldCase(*k));
         return kNone;
     }
+    // An index out of range is error 9; an unknown key or no position at all error 5.
     std::size_t ResolvePosition(const CollectionPosition& position) const {
-        if (auto* i = std::get_if<std::int32_t>(&position)) return CheckedIndex(*i);
-        if (auto* k = std::get_if<std::string>(&position)) return IndexOfKey(*k);
-        RaiseStandardError(vberr::InvalidProcedureCall);
+        const std::size_t i = FindPosition(position);
+        if (i != kNone) return i;
+        RaiseStandardError(std::holds_alternative<std::int32_t>(position) ? vberr::SubscriptOutOfRange
+                                                                          : vberr::InvalidProcedureCall);
     }
     void EraseAt(std::size_t i) {
         entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(i));

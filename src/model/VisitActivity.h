@@ -8,29 +8,35 @@
 #include "model/SendFax.h"
 #include "model/SendMail.h"
 
-#include <utility>
+#include <type_traits>
 
 namespace flowloom {
+
+namespace visit_detail {
+// The activity as class T, as const as it was given.
+template <typename T, typename A>
+auto& As(A& activity) {
+    if constexpr (std::is_const_v<A>) return static_cast<const T&>(activity);
+    else return static_cast<T&>(activity);
+}
+}  // namespace visit_detail
 
 // Calls `visitor` with the activity as its own class, chosen by its kind.
 // Every overload of the visitor returns the same type.
 template <typename A, typename Visitor>
-    requires std::is_base_of_v<Activity, std::remove_const_t<A>>
+    requires std::is_same_v<std::remove_const_t<A>, Activity>
 decltype(auto) VisitActivity(A& activity, Visitor&& visitor) {
-    constexpr bool isConst = std::is_const_v<A>;
-    auto as = [&activity]<typename T>(std::type_identity<T>) -> std::conditional_t<isConst, const T&, T&> {
-        return static_cast<std::conditional_t<isConst, const T&, T&>>(activity);
-    };
+    using visit_detail::As;
     switch (activity.Kind()) {
-    case ActivityKind::MailMerge: return std::forward<Visitor>(visitor)(as(std::type_identity<MailMerge>{}));
-    case ActivityKind::SaveAs: return std::forward<Visitor>(visitor)(as(std::type_identity<SaveAs>{}));
-    case ActivityKind::PrintOut: return std::forward<Visitor>(visitor)(as(std::type_identity<PrintOut>{}));
-    case ActivityKind::Convert: return std::forward<Visitor>(visitor)(as(std::type_identity<Convert>{}));
-    case ActivityKind::SendMail: return std::forward<Visitor>(visitor)(as(std::type_identity<SendMail>{}));
-    case ActivityKind::SendFax: return std::forward<Visitor>(visitor)(as(std::type_identity<SendFax>{}));
+    case ActivityKind::MailMerge: return visitor(As<MailMerge>(activity));
+    case ActivityKind::SaveAs: return visitor(As<SaveAs>(activity));
+    case ActivityKind::PrintOut: return visitor(As<PrintOut>(activity));
+    case ActivityKind::Convert: return visitor(As<Convert>(activity));
+    case ActivityKind::SendMail: return visitor(As<SendMail>(activity));
+    case ActivityKind::SendFax: return visitor(As<SendFax>(activity));
     case ActivityKind::AddRecord: break;
     }
-    return std::forward<Visitor>(visitor)(as(std::type_identity<AddRecord>{}));
+    return visitor(As<AddRecord>(activity));
 }
 
 // A visitor made of lambdas, one per activity class.

@@ -145,23 +145,6 @@ TEST_F(SafeSave, AFullDiskWhileWritingLeavesTheOldFileAndNoBackup) {
     }
 }
 
-TEST_F(SafeSave, ARealFullDiskLeavesTheOldFileAndNoBackup) {
-    SmallFileSystem disk(folder / "disk", 256 * 1024);
-    if (!disk.Mounted()) GTEST_SKIP() << "no permission to mount a small file system";
-    const fs::path target = disk.Path() / "p.xml";
-    for (const bool copyBackup : {false, true}) {
-        SCOPED_TRACE(copyBackup ? "backup by copy" : "backup by link");
-        WriteAll(target, old);
-        if (copyBackup) Fail({{SaveStep::LinkBackup, EPERM}});
-        const SaveOutcome outcome = Save(target, longer);
-        SetSaveFaultHook({});
-        EXPECT_FALSE(outcome.written);
-        EXPECT_EQ(outcome.errorNumber, 61) << outcome.cause;
-        EXPECT_EQ(ReadAll(target), old);
-        EXPECT_EQ(Names(disk.Path()), std::set<std::string>{"p.xml"});
-    }
-}
-
 TEST_F(SafeSave, SavingThroughALinkReplacesTheFileItNamesAndKeepsTheLink) {
     fs::create_directory(folder / "real");
     const fs::path real = folder / "real" / "p.xml";
@@ -218,19 +201,6 @@ TEST_F(SafeSave, WhatCannotBeReplacedIsRefusedAndLeftAlone) {
     EXPECT_NE(Save(folder / "fifo.xml", shorter).cause.find("not a regular file"), std::string::npos);
     EXPECT_EQ(Save(folder / "missing" / "p.xml", shorter).errorNumber, 76);
     EXPECT_EQ(Names(folder.Path()), (std::set<std::string>{"dir.xml", "fifo.xml", "p.xml"}));
-}
-
-TEST_F(SafeSave, AnUnprivilegedUserCannotSaveIntoAFolderItMayNotWrite) {
-    WriteAll(file, old);
-    ::chmod(file.c_str(), 0666);  // the file would let it, the folder does not
-    if (!RunsAsRoot()) ::chmod(folder.Path().c_str(), 0555);
-    const int status = RunAsUnprivileged([&] {
-        const SaveOutcome outcome = Save(file, shorter);
-        return !outcome.written && outcome.errorNumber == 70;
-    });
-    EXPECT_TRUE(Succeeded(status));
-    EXPECT_EQ(ReadAll(file), old);
-    EXPECT_EQ(Names(folder.Path()), std::set<std::string>{"p.xml"});
 }
 
 TEST_F(SafeSave, LeftoversOfKilledSavesGoButNotWhatARunningSaveHolds) {
