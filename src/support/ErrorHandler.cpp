@@ -115,6 +115,8 @@ int ErrorHandler::ErrorMessage(std::int32_t errNo, std::int32_t errLine, const s
         box.description = strDescription;
         box.helpFile = strHelpFile;
         box.helpContext = lngHelpContextId;
+        box.module = strSource;
+        box.procedure = strProcedure;
         box.title = kTitle;
         if (IsRetryError(errNo)) return AskRetry(box, strComment);
 

@@ -46,6 +46,19 @@ struct ErrorBox {
     int style = msgbox::Critical;
     std::string helpFile;
     std::int32_t helpContext = 0;
+    std::string module;     // where the error was trapped
+    std::string procedure;
+};
+
+// A file dialog: open or save, with its title, default extension, initial
+// folder and filter ("XML files (*.xml)|*.xml|All Files (*.*)|*.*").
+struct FileDialogRequest {
+    bool save = false;
+    std::string title;
+    std::string defaultExtension;
+    std::string folder;
+    std::string filter;
+    std::string fileName;
 };
 
 // Everything the core asks of the person in front of it: message boxes, input
@@ -66,6 +79,8 @@ public:
     virtual bool ShowText(const std::string& text) = 0;
     // Opens a link or a file with the desktop's handler; true on success.
     virtual bool OpenUrl(const std::string& url) = 0;
+    // The file chosen in a file dialog; nullopt when it was cancelled.
+    virtual std::optional<std::string> SelectFile(const FileDialogRequest&) { return std::nullopt; }
     // A box of the error handler. By default an ordinary message box.
     virtual int ShowError(const ErrorBox& box) {
         return MsgBox(box.text, box.style, box.title, box.helpFile, box.helpContext);

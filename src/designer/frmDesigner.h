@@ -1,0 +1,288 @@
+#pragma once
+
+#include "designer/CHTMLDocument.h"
+#include "designer/DesignerView.h"
+#include "designer/DesignerClipboard.h"
+#include "designer/HtmlDom.h"
+#include "designer/ListBoxData.h"
+#include "designer/MenuData.h"
+#include "grid/PropertyEvents.h"
+#include "sheets/SheetHost.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace flowloom {
+class Activity;
+class Database;
+class Datasource;
+class Process;
+class Processes;
+}  // namespace flowloom
+
+namespace flowloom::designer {
+
+// A control's place in twips (15 to a pixel at 96 dpi).
+struct TwipRect {
+    double Left = 0, Top = 0, Width = 0, Height = 0;
+};
+
+// The window's geometry in twips, as the resize arithmetic keeps it.
+struct DesignerLayout {
+    TwipRect lstProcesses{60, 660, 3675, 4920};
+    TwipRect picListBorder{90, 675, 3630, 4935};
+    TwipRect wbcDatabase{3780, 660, 1900, 1275};
+    TwipRect wbcDatasource{5665, 660, 2810, 1275};
+    TwipRect wbcActivity{3780, 1920, 4695, 3675};
+    TwipRect PropList{8520, 660, 3675, 4155};
+    TwipRect txtPropInfo{8520, 4860, 3675, 735};
+    TwipRect cmdBrowse{11880, 4320, 250, 210};
+    bool cmdBrowseVisible = false;
+    double lineTop = 600;  // the separator under the toolbar
+    double innerWidth = 11880, innerHeight = 5640;
+    double twipsPerPixelX = 15, twipsPerPixelY = 15;
+};
+
+// The strips of the canvas.
+enum class Strip { Database, Datasource, Activity };
+
+// What came of a menu choice.
+enum class MenuResult { Chosen, Disabled, Hidden, NotOpen, Unknown };
+
+// The main window's logic: its state, its handlers and its commands. The
+// Qt window and the headless session both drive this one class: they turn a
+// person's mouse and keys into the calls below and show what it changed.
+class frmDesigner : public grid::PropertyEvents, private sheets::SheetHost {
+public:
+    frmDesigner(PropertyGridHost& grid, DesignerView& view);
+    ~frmDesigner() override;
+    frmDesigner(const frmDesigner&) = delete;
+    frmDesigner& operator=(const frmDesigner&) = delete;
+
+    // --- life cycle -------------------------------------------------------
+    // Start-up with the raw command line; false when the window unloaded
+    // (failures A, B, C).
+    bool Form_Load(const std::string& commandLine);
+    void Form_Activate();
+    // With the window's inner size in twips.
+    void Form_Resize(double innerWidth, double innerHeight);
+    // The user closes the window; false when the unload was cancelled.
+    bool Form_Unload();
+    bool Unloaded() const noexcept { return unloaded_; }
+    // Whether a start-up failure unloaded the window.
+    bool FailedAtStart() const noexcept { return failedAtStart_; }
+
+    // --- what a person does (the same order of events as the window) ------
+    void ListClick(int index);       // left button on entry `index`
+    void ListRightClick(int index);  // right button down and up on it
+    void ListKeyUp(int keyCode);
+    void CellClick(Strip strip, int row, int cell);
+    void CellRightClick(Strip strip, int row, int cell);
+    void StripClick(Strip strip);       // the empty part of the strip
+    void StripRightClick(Strip strip);  // the same, right button
+    void StripKeyDown(Strip strip, int keyCode);  // a key on the focused cell
+    void FocusControl(Control control);
+    // Opens the menu that holds the entry (its enabling rules run) and
+    // chooses the entry; entries of the context menu come from the open one.
+    MenuResult ChooseMenu(const std::string& name);
+    // Runs the enabling rule of a menu, as when it opens.
+    void OpenMenu(const std::string& menu);
+    void ClosePopup();
+    bool PopupOpen() const noexcept { return popupOpen_; }
+    void ToolbarClick(int index);
+    void GridRowClick(int index);  // 1-based row of the grid
+    void HelpRequested();          // F1
+
+    // --- what the window shows -----------------------------------------
+    const std::string& Caption() const noexcept { return caption_; }
+    const ListBoxData& lstProcesses() const noexcept { return list_; }
+    bool ProcessListMarked() const noexcept { return listMarked_; }
+    HtmlPage& Canvas(Strip strip) noexcept;
+    const std::string& PropListTag() const noexcept { return propListTag_; }
+    const std::string& txtPropInfo() const noexcept { return propInfo_; }
+    const DesignerLayout& Layout() const noexcept { return layout_; }
+    void SetTwipsPerPixel(double x, double y);
+    const MenuBar& Menus() const noexcept { return menus_; }
+    Control ActiveControl() const noexcept { return activeControl_; }
+    bool WaitCursor() const noexcept { return waitCursor_; }
+
+    // --- state the session and tests read --------------------------------
+    std::shared_ptr<Processes> CurrentProcesses() const override { return Processes_; }
+    std::shared_ptr<Process> CurrentProcess() const override { return mProcess; }
+    // Processes.XML differs from the text saved last, without regard to case.
+    bool HasUnsavedChanges() const;
+    const Clipboard& mClipboardContent() const noexcept { return mClipboard; }
+    const std::string& ActiveObjectType() const noexcept { return activeObjectType_; }
+    const std::string& ActiveObjectName() const noexcept { return activeObjectName_; }
+    const std::string& ActiveObjectFields() const noexcept { return activeObjectFields_; }
+    const std::string& FileName() const noexcept { return mFileName; }
+    // The text QueryCustomData gives for a row.
+    std::string CustomDataText(grid::Property& row);
+
+    // --- the grid's events ---------------------------------------------
+    void PropList_Click();
+    void KeyDownEdit(int& KeyCode, int Shift) override;
+    void KeyPressEdit(int&) override {}
+    void KeyUpEdit(int, int) override {}
+    void NeedData(grid::Property& iProp, std::vector<std::string>& sListItems) override;
+    void SelChange(grid::Property* iPropOld, grid::Property* iPropNew) override;
+    void ValueChanged(grid::Property& iProp, std::string& sNewValue, bool& Cancel) override;
+    void QueryCustomData(grid::Property& iProp, std::string& sDisplayValue) override;
+    void GetPredefinedStrings(grid::Property&, std::vector<std::string>&) override {}
+    void ShowEditControl(grid::Property&, int, int, int, int, bool&) override {}
+    void HideEditControl() override {}
+    void Expand(grid::Property&) override {}
+    void Collapse(grid::Property&) override {}
+    void ODCommitPending(grid::Property&) override {}
+    void Browse(grid::Property& iProp, std::string& sFillWith) override;
+    void DropdownPick(grid::Property&, int) override {}
+    void PreExpand(grid::Property&) override {}
+    void cmdBrowse_Click();
+
+private:
+    struct StripState;
+    class StripEvents;
+    friend class StripEvents;
+
+    // Part of the window: life cycle and the list (frmDesigner.cpp).
+    void PlaceListBorder();
+    void MarkProcessList(bool on);
+    void ShowProcesses();
+    void ProcessSelected();
+    void ShowProcess();
+    void lstProcesses_GotFocus();
+    void lstProcesses_KeyUp(int keyCode);
+    void lstProcesses_MouseDown(int button, int index);
+    void lstProcesses_MouseUp(int button);
+    void SetFocusTo(Control control);
+    void Notify(unsigned what);
+    void SetCaption(std::string caption);
+    void StartUp(const std::string& commandLine);
+
+    // Menus and toolbar (frmDesignerMenus.cpp).
+    void mnuProcess_Click();
+    void mnuDatabase_Click();
+    void mnuProcessDatasource_Click();
+    void mnuProcessActivity_Click();
+    void RunMenuEntry(const std::string& name);
+    void RunPopupEntry(const std::string& name);
+    void ShowListPopup();
+    void mnuGenerateCode(bool withXml);
+    void mnuProcessVerify_Click();
+    void OpenHelp(std::int32_t context);
+
+    // File commands (frmDesignerFile.cpp).
+    int SaveChanges();
+    bool SaveXMLFile(bool saveAs);
+    void NewXMLFile();
+    void LoadXMLFileDialog();
+    bool LoadXMLFile(const std::string& file);
+    void AskNameIfNewProcess();
+
+    // Process commands (frmDesignerProcess.cpp).
+    void AskNameOfProcess();
+    void AddProcess(const std::string& name, bool select);
+    bool SelectProcess(const std::string& name);
+    void NewFromExisting();
+    void DeleteProcess();
+    void ProcessMoveForward();
+    void ProcessMoveBack();
+    void CopyProcessToClipboard();
+    void PasteProcess(const char* procedure);
+
+    // Database, datasource and activity commands (frmDesignerItems.cpp).
+    void InsertDatabase();
+    void InsertDatasource();
+    void InsertActivity(int code);
+    void DeleteDatabase();
+    void DeleteDatasource();
+    void DeleteActivity();
+    void DatabaseMoveForward();
+    void DatabaseMoveBack();
+    void DatasourceMoveForward();
+    void DatasourceMoveBack();
+    void ActivityMoveForward();
+    void ActivityMoveBack();
+    void CopyDatasourceToClipboard();
+    void CopyActivityToClipboard();
+    void PasteDatasource(const char* procedure);
+    void PasteActivity(const char* procedure);
+    int InsertSlot(Strip strip, int code);
+    void CellContextMenu(Strip strip);
+    void DocumentContextMenu(Strip strip);
+    void SetPastePopupEntry(Strip strip);
+
+    // The canvas (frmDesignerCanvas.cpp).
+    void InitWebBrowserControl(Strip strip);
+    void TuneWebBrowserControl(Strip strip);
+    void VisualizeDatabases();
+    void VisualizeDatasources();
+    void VisualizeStrip(Strip strip);
+    void VisualizeActivities();
+    void UnselectStrip(Strip strip);
+    bool TableExists(Strip strip) const;
+    std::shared_ptr<Database> GetSelectedDatabase(std::int32_t& position) const;
+    std::shared_ptr<Datasource> GetSelectedDatasource(std::int32_t& position) const;
+    std::shared_ptr<Activity> GetSelectedActivity(std::int32_t& position) const;
+    std::int32_t SelectedStripPosition(Strip strip) const;
+    void HtmlCellArrowKeyDown(Strip strip, int key);
+    void HtmlActivityCellArrowKeyDown(int key);
+    void StripGotFocus(Strip strip);
+    void FocusCell(Strip strip, int row, int cell);
+    void OnCellSelected(Strip strip, const std::shared_ptr<HtmlCell>& cell);
+    void OnCellDeleted(Strip strip);
+    void OnArrow(Strip strip, int key);
+    StripState& StripOf(Strip strip) noexcept;
+    const StripState& StripOf(Strip strip) const noexcept;
+
+    // Sheets (frmDesignerSheets.cpp).
+    void OpenPropList(int kind);
+    void ShowPropertyHelp();
+    void PlaceBrowseButton();
+
+    // SheetHost.
+    std::shared_ptr<Database> SelectedDatabase() const override;
+    std::shared_ptr<Datasource> SelectedDatasource() const override;
+    std::shared_ptr<Activity> SelectedActivity() const override;
+    void LoadDatabaseObjects(const std::string& databaseName) override;
+    bool DatabaseObjectList(const std::string& type, std::string& list) const override;
+    const sheets::FieldListMemo& LastFieldList() const override { return fieldListMemo_; }
+
+    PropertyGridHost& grid_;
+    DesignerView& view_;
+
+    // The state of the window.
+    std::shared_ptr<Processes> Processes_;
+    std::shared_ptr<Process> mProcess;
+    std::string mFileName;
+    std::string mSavedXML;
+    int mLastProcessIndex = -1;
+    bool mNewProcessChanged = false;
+    bool mIgnoreProcessClick = false;
+    std::string mFileDialogFolder;
+    double mBottomMargin = 0;
+    Clipboard mClipboard;
+    bool mActivatedOnce = false;
+    std::shared_ptr<HtmlCell> mSelectedCell;
+    std::string activeObjectType_, activeObjectName_, activeObjectFields_;
+    std::string mAccessObjectsLocation;
+    sheets::FieldListMemo fieldListMemo_;
+
+    std::unique_ptr<StripState> strips_[3];
+    ListBoxData list_;
+    MenuBar menus_;
+    DesignerLayout layout_;
+    std::string caption_;
+    std::string propListTag_;
+    std::string propInfo_;
+    bool listMarked_ = false;
+    bool popupOpen_ = false;
+    bool waitCursor_ = false;
+    bool unloaded_ = false;
+    bool failedAtStart_ = false;
+    Control activeControl_ = Control::None;
+};
+
+}  // namespace flowloom::designer
