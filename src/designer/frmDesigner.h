@@ -78,6 +78,8 @@ public:
     void ListClick(int index);       // left button on entry `index`
     void ListRightClick(int index);  // right button down and up on it
     void ListKeyUp(int keyCode);
+    // The keyboard moves the list's selection (arrow keys, Home, End).
+    void ListSelect(int index);
     void CellClick(Strip strip, int row, int cell);
     void CellRightClick(Strip strip, int row, int cell);
     void StripClick(Strip strip);       // the empty part of the strip

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "designer/DesignerView.h"
+#include "grid/Properties.h"
+#include "grid/PropertyEvents.h"
+#include "grid/PropertyOwner.h"
+
+#include <functional>
+#include <string>
+
+namespace flowloom::designer {
+
+// The grid without a window: rows, a selected row and the events a click on
+// a row raises. The session and the tests put it where the window has its
+// grid widget.
+class HeadlessGrid : public PropertyGridHost, private grid::PropertyOwner {
+public:
+    HeadlessGrid() : rows_(this) {}
+
+    // Where the grid's events go (the designer); not owned.
+    void SetEvents(grid::PropertyEvents* events) noexcept { events_ = events; }
+
+    grid::Properties& Rows() override { return rows_; }
+    grid::Property* SelectedItem() const override { return selected_; }
+    void SetHoldDraw(bool) override {}
+    // Rows stand one under the other, 16 pixels high, 240 pixels wide.
+    bool RowRect(const grid::Property& row, int& right, int& top) const override;
+
+    // A click on the 1-based row: the selection changes (SelChange), then
+    // the grid's Click; false when there is no such row.
+    bool ClickRow(int index, const std::function<void()>& click);
+    // The text the row shows, asking the events for custom data.
+    std::string ShownText(grid::Property& row);
+
+private:
+    bool IsSelected(const grid::Property& row) const override { return &row == selected_; }
+    void RowsCleared() override { selected_ = nullptr; }
+    void ClearSelectionIf(const grid::Property& row) override {
+        if (&row == selected_) selected_ = nullptr;
+    }
+
+    grid::Properties rows_;
+    grid::Property* selected_ = nullptr;
+    grid::PropertyEvents* events_ = nullptr;
+};
+
+}  // namespace flowloom::designer
