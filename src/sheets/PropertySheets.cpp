@@ -1,0 +1,125 @@
+#include "sheets/PropertySheets.h"
+
+#include "sheets/SheetTables.h"
+
+#include "grid/Properties.h"
+#include "model/AddRecord.h"
+#include "model/Databases.h"
+#include "model/Datasources.h"
+#include "model/Groups.h"
+#include "model/Process.h"
+#include "model/Processes.h"
+#include "model/VisitActivity.h"
+#include "support/TextCompare.h"
+#include "support/VbStrings.h"
+
+#include <array>
+
+namespace flowloom::sheets {
+
+namespace {
+
+constexpr int kFirstActivitySheet = 10;
+constexpr int kAddRecordSheet = 16;
+constexpr std::int32_t kListOnDemandRow = 4;  // ObjectName and TableName
+
+// The object lists of a database are read when a list first needs them.
+// Without any read yet, the database of the selected activity is inspected
+// (an AddRecord's, the only activity that names one); the Datasource sheet
+// has normally inspected its own database while it was built.
+void EnsureDatabaseObjects(SheetHost& host) {
+    if (std::string ignored; host.DatabaseObjectList("Table", ignored)) return;
+    const auto activity = host.SelectedActivity();
+    if (const auto* addRecord = ActivityAs<AddRecord>(activity.get())) host.LoadDatabaseObjects(addRecord->Database());
+}
+
+// The kind of object list a datasource of this type draws its name from;
+// "" for "Active Object", which names no object of the database.
+std::string ObjectListType(const std::string& datasourceType) {
+    for (const char* type : {"Form", "Table", "Query"})
+        if (EqualsNoCase(datasourceType, type)) return type;
+    return {};
+}
+
+}  // namespace
+
+bool IsActivitySheet(int kind) { return kind >= kFirstActivitySheet && kind <= kAddRecordSheet; }
+
+const SheetTable* FindSheetTable(int kind) {
+    switch (kind) {
+    case kProcessSheet: return &ProcessSheetTable();
+    case kDatabaseSheet: return &DatabaseSheetTable();
+    case kDatasourceSheet: return &DatasourceSheetTable();
+    default: break;
+    }
+    if (!IsActivitySheet(kind)) return nullptr;
+    using Table = const SheetTable& (*)();
+    static constexpr std::array<Table, 7> activities = {MailMergeSheetTable, SaveAsSheetTable, PrintOutSheetTable,
+                                                        ConvertSheetTable,   SendMailSheetTable, SendFaxSheetTable,
+                                                        AddRecordSheetTable};
+    return &activities[static_cast<std::size_t>(kind - kFirstActivitySheet)]();
+}
+
+std::string SheetKindName(int kind) {
+    const SheetTable* table = FindSheetTable(kind);
+    return table ? std::string(table->kindName) : std::string();
+}
+
+void BuildSheet(int kind, SheetHost& host, grid::Properties& rows) {
+    rows.Clear();
+    const SheetTable* table = FindSheetTable(kind);
+    if (!table) return;
+    if (IsActivitySheet(kind)) AddRow(rows, {"Description", grid::ExPropText});
+    table->addRows(host, rows);
+    table->setValues(host, rows, GuardedSteps(table->setProcedure));
+}
+
+std::string HelpKey(int kind, const grid::Property& row) { return SheetKindName(kind) + "." + RowTag(row); }
+
+std::string QueryCustomDataText(const grid::Property& row, const SheetHost& host) {
+    const std::string tag = RowTag(row);
+    if (tag == "FieldValues") return row.value().empty() ? "(None)" : "(Data)";
+    if (tag == "Attachments") return row.value().empty() ? "(None)" : "(Attachments)";
+    if (tag == "Groups") {
+        const auto process = host.CurrentProcess();
+        return process && process->Groups()->Count() != 0 ? "(List)" : "(None)";
+    }
+    return row.value();
+}
+
+void NeedData(int kind, const grid::Property& row, SheetHost& host, std::vector<std::string>& items) {
+    if (row.Index() != kListOnDemandRow || (kind != kAddRecordSheet && kind != kDatasourceSheet)) return;
+    EnsureDatabaseObjects(host);
+    std::string type = "Table";
+    if (kind == kDatasourceSheet) {
+        // The Type row writes the model on every edit, so the member is what
+        // the row shows (an empty one shows as "Active Object").
+        const auto datasource = host.SelectedDatasource();
+        type = datasource ? ObjectListType(datasource->Type_) : std::string();
+    }
+    if (std::string list; !type.empty() && host.DatabaseObjectList(type, list)) items = SplitList(list);
+}
+
+bool ShowsBrowseButton(const grid::Property& row) {
+    const std::string tag = RowTag(row);
+    return tag == "Attachments" || tag == "FieldValues";
+}
+
+std::vector<std::string> GetDatasourceNames(const SheetHost& host) {
+    std::vector<std::string> names;
+    const auto process = host.CurrentProcess();
+    if (!process || !process->Datasources()) return names;
+    for (const auto& datasource : *process->Datasources()) names.push_back(datasource->name());
+    return names;
+}
+
+std::vector<std::string> GetDatabaseList(const SheetHost& host, bool includeCurrent) {
+    std::vector<std::string> names;
+    if (includeCurrent) names.emplace_back("CurrentDatabase");
+    const auto processes = host.CurrentProcesses();
+    if (processes && processes->Databases())
+        for (const auto& database : *processes->Databases()) names.push_back(database->name);
+    return SplitList(vb::Join(names, ";"));
+}
+
+}  // namespace flowloom::sheets

@@ -1,0 +1,45 @@
+#include "sheets/SheetRows.h"
+
+#include "app/Common.h"
+#include "grid/Properties.h"
+#include "support/VbStrings.h"
+
+namespace flowloom::sheets {
+
+grid::Property& AddRow(grid::Properties& rows, const RowSpec& spec) {
+    const std::string key(spec.key);
+    grid::Property& row = rows.Add(SpacedName(key), spec.type, "");
+    row.SetTag(TaggedValue(key));
+    return row;
+}
+
+void AddRows(grid::Properties& rows, const std::vector<RowSpec>& specs) {
+    for (const RowSpec& spec : specs) AddRow(rows, spec);
+}
+
+void SetFixedList(grid::Property& row, std::vector<std::string> items) {
+    const std::string first = items.empty() ? std::string() : items.front();
+    row.SetListItems(std::move(items));
+    row.SetValue(first);
+}
+
+const std::string& ListItemAt(const grid::Property& row, std::size_t position) {
+    const auto& items = row.ListItems();
+    if (!items || position >= items->size()) RaiseStandardError(vberr::SubscriptOutOfRange);
+    return (*items)[position];
+}
+
+void SetIfNotEmpty(grid::Property& row, const std::string& text) {
+    if (!text.empty()) row.SetValue(text);
+}
+
+std::string BoolText(bool value) { return value ? "True" : "False"; }
+
+std::string RowTag(const grid::Property& row) { return row.Tag().IsText() ? row.Tag().Text() : std::string(); }
+
+std::vector<std::string> SplitList(std::string_view joined) {
+    if (joined.empty()) return {};
+    return vb::Split(joined, ";");
+}
+
+}  // namespace flowloom::sheets
