@@ -135,7 +135,11 @@ public:
     // the window gives the control the focus first (its focus event runs).
     void SetControlFocusRequest(std::function<void()> request) { requestControlFocus_ = std::move(request); }
 
-    void SetListener(HtmlPageListener* listener) noexcept { listener_ = listener; }
+    void SetListener(HtmlPageListener* listener) noexcept {
+        listener_ = listener;
+        ++listenerEpoch_;
+    }
+    HtmlPageListener* Listener() const noexcept { return listener_; }
 
     // What a person does to the page, as the browser reports it: a mouse
     // press on a cell focuses it; the click then reaches the body.
@@ -158,6 +162,7 @@ public:
 private:
     friend class HtmlRow;
     friend class HtmlCell;
+    friend class HtmlTable;
     std::uint64_t NextCellId() noexcept { return ++lastId_; }
     void Touch() {
         ++generation_;
@@ -169,6 +174,7 @@ private:
     bool controlFocused_ = false;
     std::weak_ptr<HtmlCell> focused_;
     HtmlPageListener* listener_ = nullptr;
+    std::uint64_t listenerEpoch_ = 0;
     std::function<void()> requestControlFocus_;
     std::function<void()> changed_;
     std::uint64_t lastId_ = 0;

@@ -80,8 +80,9 @@ public:
     void ListKeyUp(int keyCode);
     // The keyboard moves the list's selection (arrow keys, Home, End).
     void ListSelect(int index);
-    void CellClick(Strip strip, int row, int cell);
-    void CellRightClick(Strip strip, int row, int cell);
+    // False when the strip has no such cell (the click still gave it the focus).
+    bool CellClick(Strip strip, int row, int cell);
+    bool CellRightClick(Strip strip, int row, int cell);
     void StripClick(Strip strip);       // the empty part of the strip
     void StripRightClick(Strip strip);  // the same, right button
     void StripKeyDown(Strip strip, int keyCode);  // a key on the focused cell
@@ -94,7 +95,9 @@ public:
     void ClosePopup();
     bool PopupOpen() const noexcept { return popupOpen_; }
     void ToolbarClick(int index);
-    void GridRowClick(int index);  // 1-based row of the grid
+    // A click in the grid gives it the focus; the grid selects the row
+    // itself and raises SelChange and Click.
+    void GridRowClick(int index);
     void HelpRequested();          // F1
 
     // --- what the window shows -----------------------------------------
@@ -159,6 +162,8 @@ private:
     void lstProcesses_MouseDown(int button, int index);
     void lstProcesses_MouseUp(int button);
     void SetFocusTo(Control control);
+    void MoveFocus(Control control, bool byDesigner);
+    void BeginAction();
     void Notify(unsigned what);
     void SetCaption(std::string caption);
     void StartUp(const std::string& commandLine);
@@ -171,7 +176,18 @@ private:
     void RunMenuEntry(const std::string& name);
     void RunPopupEntry(const std::string& name);
     void ShowListPopup();
-    void mnuGenerateCode(bool withXml);
+    void RunToolbarButton(int index);
+    void OpenPopup();
+    void FileNew();
+    void FileOpen();
+    void FileSave();
+    void FileSaveAs();
+    void Exit();
+    void NewTemplate();
+    void GenerateCodeWithXml();
+    void GenerateCodeWithoutXml();
+    void ShowOptions();
+    void ShowAbout();
     void mnuProcessVerify_Click();
     void OpenHelp(std::int32_t context);
 
@@ -212,6 +228,7 @@ private:
     void PasteDatasource(const char* procedure);
     void PasteActivity(const char* procedure);
     int InsertSlot(Strip strip, int code);
+    void FreeSlot(Strip strip, std::int32_t position);
     void CellContextMenu(Strip strip);
     void DocumentContextMenu(Strip strip);
     void SetPastePopupEntry(Strip strip);
@@ -223,6 +240,7 @@ private:
     void VisualizeDatasources();
     void VisualizeStrip(Strip strip);
     void VisualizeActivities();
+    void BuildActivityRows(StripState& state, HtmlTable& table);
     void UnselectStrip(Strip strip);
     bool TableExists(Strip strip) const;
     std::shared_ptr<Database> GetSelectedDatabase(std::int32_t& position) const;
@@ -280,6 +298,8 @@ private:
     std::string propListTag_;
     std::string propInfo_;
     bool listMarked_ = false;
+    bool messagesLoaded_ = false;
+    bool visible_ = false;
     bool popupOpen_ = false;
     bool waitCursor_ = false;
     bool unloaded_ = false;

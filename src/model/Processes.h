@@ -84,6 +84,8 @@ public:
     // False when the position names no process.
     bool Remove(const CollectionPosition& position);
     std::vector<std::shared_ptr<Process>> Snapshot() const { return processes_.Snapshot(); }
+    // KeyExists: whether a process is stored under this name (without regard to case).
+    bool Contains(std::string_view name) const { return processes_.Contains(name); }
     auto begin() const { return processes_.begin(); }
     auto end() const { return processes_.end(); }
 

@@ -1,0 +1,38 @@
+#include "designer/HeadlessGrid.h"
+
+#include "grid/Property.h"
+
+namespace flowloom::designer {
+
+namespace {
+constexpr int kRowHeight = 16;
+constexpr int kGridWidth = 240;
+}  // namespace
+
+bool HeadlessGrid::RowRect(const grid::Property& row, int& right, int& top) const {
+    const std::int32_t index = rows_.IndexOf(&row);
+    if (index == 0) return false;
+    right = kGridWidth;
+    top = (index - 1) * kRowHeight;
+    return true;
+}
+
+bool HeadlessGrid::ClickRow(int index, const std::function<void()>& click) {
+    if (index < 1 || index > rows_.Count()) return false;
+    grid::Property* old = selected_;
+    grid::Property* row = &rows_.Item(index);
+    if (row != old) {
+        selected_ = row;
+        if (events_) events_->SelChange(old, row);
+    }
+    if (click) click();
+    return true;
+}
+
+std::string HeadlessGrid::ShownText(grid::Property& row) {
+    std::string shown = row.value();
+    if (row.UseCustomData() && events_) events_->QueryCustomData(row, shown);
+    return shown;
+}
+
+}  // namespace flowloom::designer
