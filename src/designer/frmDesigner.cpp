@@ -106,9 +106,14 @@ void frmDesigner::StartUp(const std::string& commandLine) {
         }
     };
     step([&] {
-        const std::filesystem::path catalogue = ProgramFolder() / "messages.xml";
-        std::error_code ec;
-        if (std::filesystem::is_regular_file(catalogue, ec)) messagesLoaded_ = Messages().Load(catalogue.string());
+        // Beside the program, or where an installation puts its data.
+        for (const std::filesystem::path& catalogue :
+             {ProgramFolder() / "messages.xml", ProgramFolder() / ".." / "share" / "flowloom" / "messages.xml"}) {
+            std::error_code ec;
+            if (!std::filesystem::is_regular_file(catalogue, ec)) continue;
+            messagesLoaded_ = Messages().Load(catalogue.string());
+            break;
+        }
     });
     step([&] { PlaceListBorder(); });
     for (const Strip strip : {Strip::Database, Strip::Datasource, Strip::Activity})
