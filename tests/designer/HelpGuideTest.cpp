@@ -6,7 +6,7 @@
 #include <set>
 #include <string>
 
-#include "TempFolder.h"
+#include "testsupport/TempFolder.h"
 #include "app/ErrorNumbers.h"
 #include "designer/HelpGuide.h"
 #include "support/AppPaths.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "TempFolder.h"
+#include "testsupport/TempFolder.h"
 #include "designer/Resources.h"
 
 namespace flowloom::designer {
