@@ -1,12 +1,14 @@
 #include "cli/Cli.h"
 
 #include "cli/CliContext.h"
+#include "cli/Session.h"
 #include "support/TextCompare.h"
 #include "model/Process.h"
 #include "model/Processes.h"
 #include "support/AppPaths.h"
 
 #include <functional>
+#include <iostream>
 #include <map>
 
 namespace flowloom::cli {
@@ -29,6 +31,11 @@ const char* const kHelp =
     "                            name from FILE at run time\n"
     "  parse-command-line TEXT   parse TEXT as the designer's command line and print\n"
     "                            xmlfile, process, activeobject and fields, one per line\n"
+    "  session [DESIGNER-ARGUMENTS]\n"
+    "                            run the designer without a window: start it with the\n"
+    "                            designer's own arguments (-xmlfile, -process, ...), then\n"
+    "                            carry out one action per line of standard input and\n"
+    "                            print a transcript of what the window shows\n"
     "  --help                    show this text\n"
     "  --version                 show the version\n"
     "\n"
@@ -41,7 +48,26 @@ const char* const kHelp =
     "Exit codes: 0 success (verify: nothing found), 1 the command ran and found a\n"
     "problem (verify: findings; save: the new content did not reach OUT; any\n"
     "command whose load had to rewrite the file and could not), 2 bad arguments,\n"
-    "an unknown process or a file that could not be read.\n";
+    "an unknown process or a file that could not be read.\n"
+    "\n"
+    "Session script lines (empty lines and lines starting with # are skipped):\n"
+    "  answers, queued for the prompt they answer:\n"
+    "    answer ok|cancel|yes|no|abort|retry|ignore   the next message box\n"
+    "    input TEXT                the next input box\n"
+    "    file [PATH]               the next file dialog; no PATH cancels it\n"
+    "  actions (STRIP is database, datasource or activity):\n"
+    "    list N, list-right N, list-key CODE          the list of processes\n"
+    "    cell STRIP R C, cell-right STRIP R C         a cell of a strip's table\n"
+    "    strip-click STRIP, strip-right STRIP         the empty part of a strip\n"
+    "    key STRIP CODE            a key down in the strip's focused cell\n"
+    "    focus list|database|datasource|activity|grid|info\n"
+    "    menu NAME                 open the menu holding entry NAME and choose it\n"
+    "    toolbar N, grid-row N     a toolbar button, a row of the property grid\n"
+    "    close                     close the window\n"
+    "    dump, xml                 print the window's state, the processes file\n"
+    "Boxes, dialogs and errors of a session are lines of its transcript on standard\n"
+    "output. The session ends when the window unloads (exit 1 if it failed at start-up)\n"
+    "or at the end of input; a line it cannot read ends it with exit 2.\n";
 
 // When loading replaced a file that was no processes file: one line that says
 // so and where the old content is.
@@ -126,6 +152,10 @@ int Save(Context& ctx) {
 int ParseCommandLineCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
 
 int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
+    return Run(args, std::cin, out, err);
+}
+
+int Run(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err) {
     if (args.empty()) {
         err << kHelp;
         return kUsage;
@@ -141,7 +171,7 @@ int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& e
     CliPrompts prompts(out, err);
     ScopedPrompts scope(prompts);
     Context ctx{args, out, err, prompts};
-    static const std::map<std::string, std::function<int(Context&)>> commands = {
+    const std::map<std::string, std::function<int(Context&)>> commands = {
         {"list", List},
         {"xml", Xml},
         {"save", Save},
@@ -149,6 +179,8 @@ int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& e
         {"verify-all", VerifyAllCommand},
         {"codegen", CodegenCommand},
         {"parse-command-line", [](Context& c) { return ParseCommandLineCommand(c.args, c.out, c.err); }},
+        {"session",
+         [&in](Context& c) { return RunSession({c.args.begin() + 1, c.args.end()}, in, c.out, c.err); }},
     };
     auto it = commands.find(args[0]);
     if (it == commands.end()) {

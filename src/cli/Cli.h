@@ -1,5 +1,6 @@
 #pragma once
 
+#include <istream>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -8,7 +9,9 @@ namespace flowloom::cli {
 
 // Runs flowloom-cli with its arguments (without the program name). Exit
 // codes: 0 success, 1 the command ran and found a problem, 2 bad arguments or
-// a file that could not be read.
+// a file that could not be read. A session reads its script from standard input.
 int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+// The same with the script of a session read from `in`.
+int Run(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 
 }  // namespace flowloom::cli

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "cli/SessionPrompts.h"
+#include "designer/DesignerView.h"
+#include "designer/HeadlessGrid.h"
+#include "designer/frmDesigner.h"
+
+#include <istream>
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace flowloom::cli {
+
+// A script line the session does not understand.
+class ScriptError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// The window of a session: nothing to paint; it prints the context menu as
+// it opens and notes that the window unloaded.
+class SessionView : public designer::DesignerView {
+public:
+    explicit SessionView(std::ostream& out) : out_(out) {}
+    void SetMenus(const designer::MenuBar* menus) noexcept { menus_ = menus; }
+    void ShowPopupMenu() override;
+    void Unload() override { unloaded_ = true; }
+    bool Unloaded() const noexcept { return unloaded_; }
+
+private:
+    std::ostream& out_;
+    const designer::MenuBar* menus_ = nullptr;
+    bool unloaded_ = false;
+};
+
+// The designer without a window: the core of the main window over a grid of
+// plain rows, driven by one action per script line and writing a transcript
+// of everything it shows. The prompts are installed for its lifetime.
+class Session {
+public:
+    explicit Session(std::ostream& out);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    // Form_Load with the command line the designer builds from these
+    // arguments, then Form_Activate; false when the window unloaded.
+    bool Start(const std::vector<std::string>& designerArgs);
+    // Carries out one script line; ScriptError for a line it cannot read.
+    void Execute(const std::string& line);
+    // The window unloaded: the session reads no further.
+    bool Ended() const noexcept;
+    // 1 after a failed start, otherwise 0.
+    int ExitCode() const noexcept;
+
+    designer::frmDesigner& Designer() noexcept { return designer_; }
+    designer::HeadlessGrid& Grid() noexcept { return grid_; }
+
+private:
+    using Words = std::vector<std::string>;
+
+    void Act(const std::string& verb, const Words& words);
+    void ChooseMenu(const std::string& name);
+    void Dump();
+    void Xml();
+
+    std::ostream& out_;
+    SessionPrompts prompts_;
+    ScopedPrompts promptsInUse_;
+    designer::HeadlessGrid grid_;
+    SessionView view_;
+    designer::frmDesigner designer_;
+    bool failedStart_ = false;
+};
+
+// Runs a whole session: start-up, then one line of `in` after the other
+// until the end of input or the window unloads. Returns the exit code; a
+// line that cannot be read goes to `err` as "flowloom-cli: line N: ..." and
+// ends the session with 2.
+int RunSession(const std::vector<std::string>& designerArgs, std::istream& in, std::ostream& out,
+               std::ostream& err);
+
+// The state of the designer as the `dump` action prints it.
+void WriteDump(designer::frmDesigner& designer, designer::HeadlessGrid& grid, std::ostream& out);
+// The open context menu as one transcript line, without its line break.
+std::string PopupLine(const designer::MenuBar& menus);
+
+}  // namespace flowloom::cli

@@ -1,0 +1,159 @@
+// One script line of a session: an answer for a prompt still to come, or
+// one thing a person does to the window.
+#include "cli/Session.h"
+
+#include "model/Processes.h"
+
+#include <charconv>
+#include <sstream>
+#include <string_view>
+
+namespace flowloom::cli {
+
+namespace {
+
+using designer::Control;
+using designer::MenuResult;
+using designer::Strip;
+
+int Number(const std::string& word) {
+    int value = 0;
+    const char* end = word.data() + word.size();
+    const auto [ptr, ec] = std::from_chars(word.data(), end, value);
+    if (ec != std::errc{} || ptr != end) throw ScriptError("'" + word + "' is not a number");
+    return value;
+}
+
+Strip StripFrom(const std::string& word) {
+    if (word == "database") return Strip::Database;
+    if (word == "datasource") return Strip::Datasource;
+    if (word == "activity") return Strip::Activity;
+    throw ScriptError("'" + word + "' is not a strip (database, datasource, activity)");
+}
+
+Control ControlFrom(const std::string& word) {
+    if (word == "list") return Control::List;
+    if (word == "grid") return Control::Grid;
+    if (word == "info") return Control::Info;
+    switch (StripFrom(word)) {
+    case Strip::Database: return Control::Database;
+    case Strip::Datasource: return Control::Datasource;
+    case Strip::Activity: return Control::Activity;
+    }
+    return Control::None;
+}
+
+std::vector<std::string> SplitWords(std::string_view text) {
+    std::vector<std::string> words;
+    std::istringstream stream{std::string(text)};
+    for (std::string word; stream >> word;) words.push_back(std::move(word));
+    return words;
+}
+
+}  // namespace
+
+void Session::Execute(const std::string& rawLine) {
+    std::string_view line = rawLine;
+    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+    const std::size_t start = line.find_first_not_of(" \t");
+    if (start == std::string_view::npos || line[start] == '#') return;
+    line.remove_prefix(start);
+
+    const std::size_t verbEnd = line.find_first_of(" \t");
+    const std::string verb(line.substr(0, verbEnd));
+    // The rest of the line after the one blank that ends the verb.
+    const std::string rest(verbEnd == std::string_view::npos ? std::string_view{} : line.substr(verbEnd + 1));
+    const Words words = SplitWords(rest);
+
+    if (verb == "answer") {
+        const auto answer = words.size() == 1 ? AnswerFromWord(words[0]) : std::nullopt;
+        if (!answer) throw ScriptError("usage: answer ok|cancel|yes|no|abort|retry|ignore");
+        prompts_.QueueAnswer(*answer);
+        return;
+    }
+    if (verb == "input") return prompts_.QueueInput(rest);
+    if (verb == "file") return prompts_.QueueFile(rest.empty() ? std::nullopt : std::optional<std::string>(rest));
+
+    // Any action closes an open context menu; a menu entry is chosen from it first.
+    if (verb != "menu" && designer_.PopupOpen()) designer_.ClosePopup();
+    Act(verb, words);
+}
+
+void Session::Act(const std::string& verb, const Words& words) {
+    struct Action {
+        std::string_view verb;
+        std::size_t count;
+        const char* usage;
+        void (*run)(Session&, const Words&);
+    };
+    static constexpr Action kActions[] = {
+        {"list", 1, "list N", [](Session& s, const Words& w) { s.designer_.ListClick(Number(w[0])); }},
+        {"list-right", 1, "list-right N",
+         [](Session& s, const Words& w) { s.designer_.ListRightClick(Number(w[0])); }},
+        {"list-key", 1, "list-key CODE", [](Session& s, const Words& w) { s.designer_.ListKeyUp(Number(w[0])); }},
+        {"cell", 3, "cell STRIP R C",
+         [](Session& s, const Words& w) { s.designer_.CellClick(StripFrom(w[0]), Number(w[1]), Number(w[2])); }},
+        {"cell-right", 3, "cell-right STRIP R C",
+         [](Session& s, const Words& w) {
+             s.designer_.CellRightClick(StripFrom(w[0]), Number(w[1]), Number(w[2]));
+         }},
+        {"strip-click", 1, "strip-click STRIP",
+         [](Session& s, const Words& w) { s.designer_.StripClick(StripFrom(w[0])); }},
+        {"strip-right", 1, "strip-right STRIP",
+         [](Session& s, const Words& w) { s.designer_.StripRightClick(StripFrom(w[0])); }},
+        {"key", 2, "key STRIP CODE",
+         [](Session& s, const Words& w) { s.designer_.StripKeyDown(StripFrom(w[0]), Number(w[1])); }},
+        {"focus", 1, "focus list|database|datasource|activity|grid|info",
+         [](Session& s, const Words& w) { s.designer_.FocusControl(ControlFrom(w[0])); }},
+        {"menu", 1, "menu NAME", [](Session& s, const Words& w) { s.ChooseMenu(w[0]); }},
+        {"toolbar", 1, "toolbar N",
+         [](Session& s, const Words& w) {
+             const int index = Number(w[0]);
+             if (index < 1 || index > static_cast<int>(designer::ToolbarButtons().size()))
+                 throw ScriptError("there is no toolbar button " + w[0]);
+             s.designer_.ToolbarClick(index);
+         }},
+        {"grid-row", 1, "grid-row N",
+         [](Session& s, const Words& w) {
+             // The press gives the grid the focus; the grid then selects the row.
+             const int row = Number(w[0]);
+             s.designer_.GridRowClick(row);
+             s.grid_.ClickRow(row, [&s] { s.designer_.PropList_Click(); });
+         }},
+        {"close", 0, "close", [](Session& s, const Words&) { s.designer_.Form_Unload(); }},
+        {"dump", 0, "dump", [](Session& s, const Words&) { s.Dump(); }},
+        {"xml", 0, "xml", [](Session& s, const Words&) { s.Xml(); }},
+    };
+    for (const Action& action : kActions) {
+        if (action.verb != verb) continue;
+        if (words.size() != action.count) throw ScriptError(std::string("usage: ") + action.usage);
+        action.run(*this, words);
+        return;
+    }
+    throw ScriptError("unknown action '" + verb + "'");
+}
+
+void Session::ChooseMenu(const std::string& name) {
+    const designer::MenuEntry* entry = designer_.Menus().Find(name);
+    if (!entry || entry->separator || designer_.Menus().IsMenu(name))
+        throw ScriptError("'" + name + "' is no menu entry");
+    const bool fromPopup = entry->parent == "mnuPopUp";
+    if (!fromPopup && designer_.PopupOpen()) designer_.ClosePopup();
+    switch (designer_.ChooseMenu(name)) {
+    case MenuResult::Chosen: break;
+    case MenuResult::Disabled: out_ << "disabled: " << name << '\n'; break;
+    case MenuResult::Hidden: out_ << "hidden: " << name << '\n'; break;
+    case MenuResult::NotOpen: out_ << "not open: " << name << '\n'; break;
+    case MenuResult::Unknown: throw ScriptError("'" + name + "' is no menu entry");
+    }
+    if (fromPopup && designer_.PopupOpen()) designer_.ClosePopup();
+}
+
+void Session::Dump() { WriteDump(designer_, grid_, out_); }
+
+void Session::Xml() {
+    if (const auto processes = designer_.CurrentProcesses()) out_ << processes->XML();
+    out_ << '\n';
+}
+
+}  // namespace flowloom::cli
