@@ -140,15 +140,18 @@ void frmDesigner::StartUp(const std::string& commandLine) {
         }
     });
     step([&] { mBottomMargin = layout_.innerHeight - layout_.lstProcesses.Top - layout_.lstProcesses.Height; });
-    step([&] {
-        const std::string activeObject = args.Value(ArgActiveObject);
-        if (activeObject.empty()) return;
+    const std::string activeObject = args.Value(ArgActiveObject);
+    if (!activeObject.empty()) {
+        // Each assignment is a statement of its own: a value without ";"
+        // fails on the name alone, and the fields are taken all the same.
         const std::vector<std::string> pieces = vb::Split(activeObject, ";");
-        if (pieces.size() < 2) RaiseStandardError(vberr::SubscriptOutOfRange);
-        activeObjectType_ = pieces[0];
-        activeObjectName_ = pieces[1];
+        activeObjectType_ = pieces.at(0);
+        step([&] {
+            if (pieces.size() < 2) RaiseStandardError(vberr::SubscriptOutOfRange);
+            activeObjectName_ = pieces[1];
+        });
         activeObjectFields_ = args.Value(ArgFields);
-    });
+    }
 }
 
 void frmDesigner::Form_Activate() {
