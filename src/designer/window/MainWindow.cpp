@@ -76,19 +76,9 @@ void MainWindow::BuildControls() {
     gridHost_->SetEvents(core_.get());
     connect(grid_, &grid::PropertyList::Click, this, [this] { core_->PropList_Click(); });
 
-    list_ = new ProcessListView(*core_, central_);
-    for (const Strip strip : {Strip::Database, Strip::Datasource, Strip::Activity}) {
-        auto* canvas = new CanvasView(strip, *core_, central_);
-        connect(canvas, &CanvasView::KeyboardMenuAt, this, [this](QPoint at) { nextMenuAt_ = at; });
-        canvases_[static_cast<int>(strip)] = canvas;
-    }
-    connect(list_, &ProcessListView::KeyboardMenuAt, this, [this](QPoint at) { nextMenuAt_ = at; });
-
-    info_ = new QPlainTextEdit(central_);
-    info_->setObjectName(QStringLiteral("txtPropInfo"));
-    info_->setReadOnly(true);
-    info_->setTabChangesFocus(true);
-
+    // Tab goes round the controls in the order they are made, and the grid
+    // came first for the designer: after it come the button and the help
+    // box, then the list and the strips, and from the last strip round to the grid.
     browse_ = new QToolButton(central_);
     browse_->setObjectName(QStringLiteral("cmdBrowse"));
     browse_->setText(QStringLiteral("..."));
@@ -96,10 +86,18 @@ void MainWindow::BuildControls() {
     browse_->hide();
     connect(browse_, &QToolButton::clicked, this, [this] { core_->cmdBrowse_Click(); });
 
-    // Tab goes round the controls in the order a person reads them.
-    QWidget* order[] = {list_, &Canvas(Strip::Database), &Canvas(Strip::Datasource), &Canvas(Strip::Activity),
-                        grid_, browse_, info_};
-    for (std::size_t i = 0; i + 1 < std::size(order); ++i) setTabOrder(order[i], order[i + 1]);
+    info_ = new QPlainTextEdit(central_);
+    info_->setObjectName(QStringLiteral("txtPropInfo"));
+    info_->setReadOnly(true);
+    info_->setTabChangesFocus(true);
+
+    list_ = new ProcessListView(*core_, central_);
+    for (const Strip strip : {Strip::Database, Strip::Datasource, Strip::Activity}) {
+        auto* canvas = new CanvasView(strip, *core_, central_);
+        connect(canvas, &CanvasView::KeyboardMenuAt, this, [this](QPoint at) { nextMenuAt_ = at; });
+        canvases_[static_cast<int>(strip)] = canvas;
+    }
+    connect(list_, &ProcessListView::KeyboardMenuAt, this, [this](QPoint at) { nextMenuAt_ = at; });
 
     auto* help = new QAction(this);
     help->setShortcut(QKeySequence(Qt::Key_F1));
