@@ -47,19 +47,23 @@ void CanvasView::PageChanged() {
     });
 }
 
-void CanvasView::EnsureLayout() {
-    if (!page_) return;
-    const int width = viewport()->width();
-    if (page_->Generation() == laidOutGeneration_ && width == laidOutWidth_) return;
-    Relayout();
+bool CanvasView::Stale() const {
+    return page_ && (page_->Generation() != laidOutGeneration_ || viewport()->width() != laidOutWidth_);
 }
 
-void CanvasView::Relayout() {
+void CanvasView::BuildLayout() {
     layout_.Build(*page_, viewport()->width());
     laidOutGeneration_ = page_->Generation();
     laidOutWidth_ = viewport()->width();
+}
+
+void CanvasView::EnsureLayout() {
+    if (!page_) return;
+    if (Stale()) {
+        BuildLayout();
+        viewport()->update();
+    }
     UpdateScrollBars();
-    viewport()->update();
 }
 
 void CanvasView::UpdateScrollBars() {
@@ -113,7 +117,8 @@ const CanvasCellBox* CanvasView::CellUnder(QPoint viewportPoint) {
 // --- painting ---------------------------------------------------------------
 
 void CanvasView::paintEvent(QPaintEvent* event) {
-    EnsureLayout();
+    // The scroll bars follow from the queued layout; painting only catches up.
+    if (Stale()) BuildLayout();
     QPainter painter(viewport());
     const QPoint offset = Offset();
     painter.translate(-offset);
@@ -123,7 +128,6 @@ void CanvasView::paintEvent(QPaintEvent* event) {
 void CanvasView::resizeEvent(QResizeEvent* event) {
     QAbstractScrollArea::resizeEvent(event);
     EnsureLayout();
-    UpdateScrollBars();
 }
 
 // --- mouse and keys -------------------------------------------------------------

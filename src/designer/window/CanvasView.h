@@ -50,7 +50,9 @@ protected:
 
 private:
     void PageChanged();
-    void Relayout();
+    bool Stale() const;
+    void BuildLayout();
+    // Lays the page out again if it changed, and sets the scroll bars.
     void EnsureLayout();
     void UpdateScrollBars();
     void ScrollFocusedCellIntoView();

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace flowloom::designer::window {
@@ -27,6 +28,7 @@ TextWindow::TextWindow(const QString& text, QWidget* parent)
     auto* close = new QPushButton(tr("&Close"), this);
     connect(save, &QPushButton::clicked, this, &TextWindow::SaveAs);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
+    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -36,6 +38,7 @@ TextWindow::TextWindow(const QString& text, QWidget* parent)
     layout->addWidget(view_);
     layout->addLayout(buttons);
     resize(720, 520);
+    if (parent) move(parent->window()->geometry().center() - rect().center());
 }
 
 QString TextWindow::Text() const { return view_->toPlainText(); }
