@@ -3,6 +3,8 @@
 #include "grid/widget/PropertyList.h"
 #include "grid/widget/RowListView.h"
 
+#include <algorithm>
+
 namespace flowloom::designer::window {
 
 GridHost::GridHost(grid::PropertyList& grid) : grid_(grid) { grid_.SetCallbackSink(this); }
@@ -19,9 +21,11 @@ bool GridHost::RowRect(const grid::Property& row, int& right, int& top) const {
     const auto* list = grid_.findChild<grid::RowListView*>();
     if (!list) return false;
     const int index = list->IndexOfRow(&row);
-    if (index < 0 || list->ItemRect(index).isEmpty()) return false;
-    // The row keeps where it was painted, in the list's viewport.
-    const QPoint at = list->viewport()->mapTo(&grid_, QPoint(row.PaintedRight, row.PaintedTop));
+    const QRect rect = index >= 0 ? list->ItemRect(index) : QRect();
+    if (rect.isEmpty()) return false;
+    // The right end of the row as it shows, scrolled sideways or not.
+    const int rowRight = std::min(rect.x() + rect.width() - list->HScrollPos(), list->viewport()->width());
+    const QPoint at = list->viewport()->mapTo(&grid_, QPoint(rowRight, rect.top()));
     right = at.x();
     top = at.y();
     return true;

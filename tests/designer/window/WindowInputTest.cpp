@@ -4,10 +4,12 @@
 
 #include "designer/window/ProcessListView.h"
 #include "grid/widget/PropertyList.h"
+#include "grid/widget/RowListView.h"
 
 #include <QApplication>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QToolButton>
 
 #include <filesystem>
 
@@ -95,6 +97,36 @@ TEST_F(WindowTest, TheKeyboardAloneGoesRoundTheControlsAndThroughTheFlow) {
     Key(Qt::Key_Tab);
     EXPECT_EQ(Core().ActiveControl(), Control::List);
     EXPECT_TRUE(Core().ProcessListMarked());
+}
+
+// Clicks the caption of the grid's row with that caption; its top in the grid, or -1.
+int ClickGridRow(grid::PropertyList& grid, const std::string& caption) {
+    for (int y = 0; y < grid.height(); ++y) {
+        const grid::Property* row = grid.HitTest(10, y);
+        if (!row || row->Caption() != caption) continue;
+        auto* list = grid.findChild<grid::RowListView*>();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->viewport()->mapFrom(&grid, QPoint(10, y + 2)));
+        return y;
+    }
+    return -1;
+}
+
+TEST_F(WindowTest, TheBrowseButtonStandsAtTheRightEndOfTheRowsThatHaveIt) {
+    grid::PropertyList& grid = Window().Grid();
+    auto* browse = Window().findChild<QToolButton*>("cmdBrowse");
+    ASSERT_NE(browse, nullptr);
+    const int top = ClickGridRow(grid, "Field Values");
+    ASSERT_GE(top, 0);
+    Settle();
+    ASSERT_TRUE(browse->isVisible());
+    const QRect button = browse->geometry(), box = grid.geometry();
+    EXPECT_GT(button.left(), box.center().x());
+    EXPECT_LT(button.right(), box.right());
+    EXPECT_NEAR(button.top(), box.top() + top, 4);
+
+    ClickGridRow(grid, "Name");
+    Settle();
+    EXPECT_FALSE(browse->isVisible());
 }
 
 TEST_F(WindowTest, ScreenshotOfTheExample) {
