@@ -108,6 +108,8 @@ void MainWindow::BuildControls() {
 
 bool MainWindow::Load(const std::string& commandLine) {
     const bool loaded = core_->Form_Load(commandLine);
+    loaded_ = true;
+    if (isVisible()) CentralResized();
     Changed(~0u);
     return loaded;
 }

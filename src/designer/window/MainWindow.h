@@ -116,6 +116,7 @@ private:
     bool movingFocus_ = false;  // the designer moves the focus: do not report it back
     bool waitCursorShown_ = false;
     bool closing_ = false;
+    bool loaded_ = false;
 };
 
 }  // namespace flowloom::designer::window

@@ -66,7 +66,9 @@ void MainWindow::CentralResized() {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == central_ && event->type() == QEvent::Resize && core_) CentralResized();
+    // The designer keeps the margin under the list from its first load, so
+    // sizes reach it only after that.
+    if (watched == central_ && event->type() == QEvent::Resize && core_ && loaded_) CentralResized();
     return QMainWindow::eventFilter(watched, event);
 }
 
