@@ -1,5 +1,6 @@
 #include "designer/window/LaunchOptions.h"
 
+#include "app/CommandLine.h"
 #include "support/AppPaths.h"
 
 namespace flowloom::designer::window {
@@ -20,12 +21,16 @@ LaunchOptions ParseLaunchOptions(const std::vector<std::string>& args) {
             options.designerArgs.push_back(arg);
         }
     }
+    // A file alone, as a desktop hands it over, is the file to open.
+    if (options.designerArgs.size() == 1 && !IsOptionWord(options.designerArgs.front()))
+        options.designerArgs.insert(options.designerArgs.begin(), "-xmlfile");
     return options;
 }
 
 std::string UsageText() {
     return "Usage: flowloom [-xmlfile FILE] [-process NAME] [-activeobject TYPE;NAME] [-fields F1;F2]\n"
            "                [--screenshot FILE] [--help] [--version]\n"
+           "       flowloom FILE\n"
            "\n"
            "Opens the processes file FILE in the designer (a new file without -xmlfile).\n"
            "  -xmlfile FILE             the processes file to open\n"

@@ -17,6 +17,9 @@ TEST(LaunchOptions, TakeTheirOwnSwitchesAndLeaveTheDesignersInOrder) {
     EXPECT_FALSE(ParseLaunchOptions({"--screenshot"}).error.empty());
     EXPECT_TRUE(ParseLaunchOptions({"--help"}).help);
     EXPECT_TRUE(ParseLaunchOptions({"-xmlfile", "f", "--version"}).version);
+    // A file alone, as the desktop passes it, is opened; a lone option word is not taken for one.
+    EXPECT_EQ(ParseLaunchOptions({"/tmp/a.xml"}).designerArgs, (std::vector<std::string>{"-xmlfile", "/tmp/a.xml"}));
+    EXPECT_EQ(ParseLaunchOptions({"-xmlfile"}).designerArgs, (std::vector<std::string>{"-xmlfile"}));
 }
 
 TEST(DialogText, FiltersBecomeQtFilters) {
