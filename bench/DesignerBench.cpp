@@ -1,5 +1,6 @@
 // Measures the designer's core on a large process: selecting it in the list
 // (three strips and the process sheet) and clicking an activity (its sheet).
+#include "BenchTiming.h"
 #include "designer/HeadlessGrid.h"
 #include "designer/frmDesigner.h"
 #include "model/Activities.h"
@@ -18,19 +19,8 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using flowloom::bench::MedianMs;
 using flowloom::designer::Strip;
-
-double MedianMs(int repetitions, const std::function<void()>& work) {
-    std::vector<double> times;
-    for (int i = 0; i < repetitions; ++i) {
-        const auto start = Clock::now();
-        work();
-        times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 // A file with a process of `count` activities of every kind and a small one.
 std::string WriteFile(int count) {

@@ -1,5 +1,6 @@
 // Measures loading and writing a large processes file against pugixml's own
 // parse and serialisation, in one run: median of several repetitions.
+#include "BenchTiming.h"
 #include "SyntheticFile.h"
 
 #include "support/TextCompare.h"
@@ -24,18 +25,7 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-double MedianMs(int repetitions, const std::function<void()>& work) {
-    std::vector<double> times;
-    for (int i = 0; i < repetitions; ++i) {
-        const auto start = Clock::now();
-        work();
-        times.push_back(std::chrono::duration<double, std::milli>(Clock::now() - start).count());
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
+using flowloom::bench::MedianMs;
 
 long PeakRssKb() {
     rusage usage{};

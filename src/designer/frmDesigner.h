@@ -169,6 +169,13 @@ private:
     void StartUp(const std::string& commandLine);
 
     // Menus and toolbar (frmDesignerMenus.cpp).
+    struct StripMenuEntries {
+        const char* remove;
+        const char* copy;  // none on the database strip
+        const char* left;
+        const char* right;
+    };
+    void StripMenuRule(Strip strip, const StripMenuEntries& entries);
     void mnuProcess_Click();
     void mnuDatabase_Click();
     void mnuProcessDatasource_Click();

@@ -42,34 +42,31 @@ void frmDesigner::mnuProcess_Click() {
     });
 }
 
-void frmDesigner::mnuDatabase_Click() {
+// The rule shared by the two strips: Delete (and Copy) with a selection,
+// the moves within the strip's ends.
+void frmDesigner::StripMenuRule(Strip strip, const StripMenuEntries& entries) {
     try {
-        const HtmlTable* table = StripOf(Strip::Database).page.getElementById("DatabaseTable");
+        const StripState& state = StripOf(strip);
+        const HtmlTable* table = state.page.getElementById(state.tableId);
         const int n = table && table->RowCount() > 0 ? table->rows(0).CellCount() : 0;
-        std::int32_t p = 0;
-        if (n != 0) GetSelectedDatabase(p);
+        const std::int32_t p = n != 0 ? SelectedStripPosition(strip) : 0;
         const int k = p - 1;
-        menus_.SetEnabled("mnuDatabaseDelete", p != 0);
-        menus_.SetEnabled("mnuDatabaseMoveRight", p != 0 && k >= 0 && k < n - 1);
-        menus_.SetEnabled("mnuDatabaseMoveLeft", p != 0 && k >= 1 && k <= n - 1);
+        menus_.SetEnabled(entries.remove, p != 0);
+        if (entries.copy) menus_.SetEnabled(entries.copy, p != 0);
+        menus_.SetEnabled(entries.right, p != 0 && k >= 0 && k < n - 1);
+        menus_.SetEnabled(entries.left, p != 0 && k >= 1 && k <= n - 1);
     } catch (...) {
     }
 }
 
+void frmDesigner::mnuDatabase_Click() {
+    StripMenuRule(Strip::Database, {"mnuDatabaseDelete", nullptr, "mnuDatabaseMoveLeft", "mnuDatabaseMoveRight"});
+}
+
 void frmDesigner::mnuProcessDatasource_Click() {
-    try {
-        const HtmlTable* table = StripOf(Strip::Datasource).page.getElementById("DatasourceTable");
-        const int n = table && table->RowCount() > 0 ? table->rows(0).CellCount() : 0;
-        std::int32_t p = 0;
-        if (n != 0) GetSelectedDatasource(p);
-        const int k = p - 1;
-        menus_.SetEnabled("mnuProcessDatasourceDelete", p != 0);
-        menus_.SetEnabled("mnuProcessDatasourceCopy", p != 0);
-        menus_.SetEnabled("mnuProcessDatasourceRight", p != 0 && k >= 0 && k < n - 1);
-        menus_.SetEnabled("mnuProcessDatasourceLeft", p != 0 && k >= 1 && k <= n - 1);
-        menus_.SetEnabled("mnuProcessDatasourcePaste", mClipboard.TypeName() == "Datasource");
-    } catch (...) {
-    }
+    StripMenuRule(Strip::Datasource, {"mnuProcessDatasourceDelete", "mnuProcessDatasourceCopy",
+                                      "mnuProcessDatasourceLeft", "mnuProcessDatasourceRight"});
+    menus_.SetEnabled("mnuProcessDatasourcePaste", mClipboard.TypeName() == "Datasource");
 }
 
 void frmDesigner::mnuProcessActivity_Click() {
