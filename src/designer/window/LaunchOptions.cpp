@@ -13,6 +13,8 @@ LaunchOptions ParseLaunchOptions(const std::vector<std::string>& args) {
             options.help = true;
         } else if (arg == "--version") {
             options.version = true;
+        } else if (arg == "--startup-time") {
+            options.startupTime = true;
         } else if (arg == "--screenshot" || arg.rfind("--screenshot=", 0) == 0) {
             if (arg != "--screenshot") options.screenshot = arg.substr(arg.find('=') + 1);
             else if (i + 1 < args.size()) options.screenshot = args[++i];
@@ -29,7 +31,7 @@ LaunchOptions ParseLaunchOptions(const std::vector<std::string>& args) {
 
 std::string UsageText() {
     return "Usage: flowloom [-xmlfile FILE] [-process NAME] [-activeobject TYPE;NAME] [-fields F1;F2]\n"
-           "                [--screenshot FILE] [--help] [--version]\n"
+           "                [--screenshot FILE] [--startup-time] [--help] [--version]\n"
            "       flowloom FILE\n"
            "\n"
            "Opens the processes file FILE in the designer (a new file without -xmlfile).\n"
@@ -39,6 +41,8 @@ std::string UsageText() {
            "  -fields F1;F2             the fields of that object\n"
            "Options may also begin with \"/\".\n"
            "  --screenshot FILE         show the window, save a picture of it as PNG to FILE, and exit\n"
+           "  --startup-time            print the milliseconds from the start to the window's first\n"
+           "                            paint, and exit\n"
            "  --help                    show this text\n"
            "  --version                 show the version\n"
            "Without a display, run it with QT_QPA_PLATFORM=offscreen or under Xvfb.\n";

@@ -12,6 +12,7 @@ struct LaunchOptions {
     bool help = false;
     bool version = false;
     std::optional<std::string> screenshot;  // --screenshot FILE
+    bool startupTime = false;               // --startup-time: print the time to the first paint and quit
     std::vector<std::string> designerArgs;  // -xmlfile and the others, as given
     std::string error;                      // a switch without its value
 };

@@ -14,6 +14,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QToolBar>
+#include <QTimer>
 #include <QToolButton>
 
 namespace flowloom::designer::window {
@@ -119,7 +120,15 @@ bool MainWindow::Load(const std::string& commandLine) {
 void MainWindow::Changed(unsigned what) {
     if (!core_) return;
     if (what & changed::Caption) setWindowTitle(QString::fromStdString(core_->Caption()));
-    if (what & changed::List) list_->Sync();
+    // The list changes once per entry while a file opens: sync it once,
+    // when the designer is done, rather than thousands of times.
+    if ((what & changed::List) && !listSyncPending_) {
+        listSyncPending_ = true;
+        QTimer::singleShot(0, this, [this] {
+            listSyncPending_ = false;
+            if (core_) list_->Sync();
+        });
+    }
     if (what & changed::ListMark) ShowListMark();
     if (what & changed::Info) info_->setPlainText(WithLineFeeds(QString::fromStdString(core_->txtPropInfo())));
     if (what & changed::Layout) PlaceControls();

@@ -117,6 +117,7 @@ private:
     bool waitCursorShown_ = false;
     bool closing_ = false;
     bool loaded_ = false;
+    bool listSyncPending_ = false;
 };
 
 }  // namespace flowloom::designer::window

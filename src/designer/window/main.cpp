@@ -6,6 +6,8 @@
 #include "support/AppPaths.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
 #include <QTimer>
 
 #include <iostream>
@@ -32,9 +34,32 @@ int Screenshot(QApplication& app, MainWindow& window, const QString& file) {
     return result;
 }
 
+// Prints the time from the program's start to the first paint of the
+// window, then ends the program: the start-up a person waits for.
+class FirstPaintTimer : public QObject {
+public:
+    explicit FirstPaintTimer(const QElapsedTimer& since) : since_(since) {}
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint && !reported_) {
+            reported_ = true;
+            std::cout << "first paint after " << since_.elapsed() << " ms\n";
+            QTimer::singleShot(0, qApp, &QApplication::quit);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    const QElapsedTimer& since_;
+    bool reported_ = false;
+};
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    QElapsedTimer sinceStart;
+    sinceStart.start();
     std::vector<std::string> args(argv + (argc > 0 ? 1 : 0), argv + argc);
     const auto options = flowloom::designer::window::ParseLaunchOptions(args);
     if (!options.error.empty()) {
@@ -61,6 +86,8 @@ int main(int argc, char** argv) {
     QObject::connect(&window, &MainWindow::Unloaded, &app, &QApplication::quit, Qt::QueuedConnection);
     if (!window.Load(flowloom::RawCommandLineFromArgs(options.designerArgs))) return 1;
     if (options.screenshot) return Screenshot(app, window, QString::fromStdString(*options.screenshot));
+    FirstPaintTimer firstPaint(sinceStart);
+    if (options.startupTime) window.installEventFilter(&firstPaint);
     window.show();
     return app.exec();
 }
