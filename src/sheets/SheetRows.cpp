@@ -6,15 +6,15 @@
 
 namespace flowloom::sheets {
 
-grid::Property& AddRow(grid::Properties& rows, const RowSpec& spec) {
-    const std::string key(spec.key);
-    grid::Property& row = rows.Add(SpacedName(key), spec.type, "");
+grid::Property& AddRow(grid::Properties& rows, const RowDef& def) {
+    const std::string key(def.key);
+    grid::Property& row = rows.Add(SpacedName(key), def.type, "");
     row.SetTag(TaggedValue(key));
     return row;
 }
 
-void AddRows(grid::Properties& rows, const std::vector<RowSpec>& specs) {
-    for (const RowSpec& spec : specs) AddRow(rows, spec);
+void AddRows(grid::Properties& rows, const std::vector<RowDef>& defs) {
+    for (const RowDef& def : defs) AddRow(rows, def);
 }
 
 void SetFixedList(grid::Property& row, std::vector<std::string> items) {

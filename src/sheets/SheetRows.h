@@ -16,15 +16,15 @@ namespace flowloom::sheets {
 
 // One line of a sheet's row table: the key (tag, help key and, through
 // SpacedName, the caption) and the item type.
-struct RowSpec {
+struct RowDef {
     std::string_view key;
     int type;
 };
 
 // Appends the row with its caption and tag; the rest stays as the grid sets it.
-grid::Property& AddRow(grid::Properties& rows, const RowSpec& spec);
+grid::Property& AddRow(grid::Properties& rows, const RowDef& def);
 // Appends the rows of a table in order.
-void AddRows(grid::Properties& rows, const std::vector<RowSpec>& specs);
+void AddRows(grid::Properties& rows, const std::vector<RowDef>& defs);
 
 // A list of fixed choices; the first is the row's value until the model says otherwise.
 void SetFixedList(grid::Property& row, std::vector<std::string> items);
