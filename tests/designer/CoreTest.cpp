@@ -4,7 +4,6 @@
 #include "designer/CHTMLDocument.h"
 #include "designer/HeadlessGrid.h"
 #include "designer/ItemCopies.h"
-#include "designer/MenuData.h"
 #include "designer/frmDesigner.h"
 #include "model/Activities.h"
 #include "model/Datasource.h"
@@ -115,23 +114,6 @@ TEST(Canvas, SurvivesCommandsThatRebuildItFromInsideItsEvents) {
     EXPECT_EQ(events.documentMenus, 0);
     page.ContextMenuOnBody();
     EXPECT_EQ(events.documentMenus, 1);
-}
-
-TEST(MenuData, ToolbarButtonsMatchTheInsertEntries) {
-    MenuBar menus;
-    const auto insert = menus.Children("mnuProcessActivityInsert");
-    ASSERT_EQ(insert.size(), 7u);
-    const auto& buttons = ToolbarButtons();
-    ASSERT_EQ(buttons.size(), 16u);
-    for (std::size_t i = 0; i < 7; ++i) EXPECT_EQ(buttons[9 + i].index, 10 + static_cast<int>(i));
-    EXPECT_EQ(menus.PathTo("mnuInsertSendFax"),
-              (std::vector<std::string>{"mnuProcessActivity", "mnuProcessActivityInsert"}));
-    EXPECT_FALSE(menus.Find("mnuPopUp")->visible);
-    for (const MenuEntry& entry : menus.Entries()) {
-        if (!entry.parent.empty()) {
-            EXPECT_NE(menus.Find(entry.parent), nullptr) << entry.name;
-        }
-    }
 }
 
 TEST(Designer, ALargeProcessKeepsItsRowsInStep) {

@@ -74,23 +74,6 @@ TEST_F(SheetFixture, FieldValuesFollowTheFieldListOfTheMainDatasourceOnly) {
     EXPECT_EQ(Build(sheets::kProcessSheet).Item(7).value(), "a = 1\r\nB = 2\r\nz = 9");
 }
 
-TEST_F(SheetFixture, DatabaseSheetWritesTheDefaultTypeBack) {
-    auto database = AddDatabase("  Main  ");
-    database->Location = "/data/main.mdb";
-    // Not selected: the rows keep their defaults.
-    EXPECT_EQ(Sheet(Build(sheets::kDatabaseSheet)), (Lines{"Name|0|Name|||?",
-                                                          "Type|5|Type|L|Microsoft Access|Microsoft Access",
-                                                          "Location|9|Location|||?"}));
-    EXPECT_EQ(database->Type_, "");
-
-    host.database = database;
-    Build(sheets::kDatabaseSheet);
-    EXPECT_EQ(Value(1), "Main");
-    EXPECT_EQ(Value(3), "/data/main.mdb");
-    EXPECT_EQ(database->Type_, "Microsoft Access");
-    EXPECT_EQ(database->name, "  Main  ");
-}
-
 TEST_F(SheetFixture, DatasourceSheetLoadsTheObjectsOfItsDatabase) {
     AddDatabase("Sales;2020");
     AddDatabase("Stock");
