@@ -8,6 +8,7 @@
 #include "model/Process.h"
 #include "model/Processes.h"
 #include "support/AppPaths.h"
+#include "support/FileHelpers.h"
 #include "support/Prompts.h"
 #include "support/ReportError.h"
 #include "support/TextCompare.h"
@@ -129,8 +130,7 @@ void frmDesigner::StartUp(const std::string& commandLine) {
     const std::string process = args.Value(ArgProcess);
     step([&] {
         if (!file.empty()) {
-            std::error_code ec;
-            if (!std::filesystem::is_regular_file(file, ec))
+            if (!FileExists(file))
                 throw VbError(kFileMissing, "The file '" + file + "' does not exist.");
             if (!LoadXMLFile(file)) throw VbError(kLoadFailed, "The error occurs while loading the file '" + file + "'.");
             if (!process.empty() && !SelectProcess(process))

@@ -13,14 +13,11 @@
 #include "model/Processes.h"
 #include "support/AppPaths.h"
 #include "support/ReportError.h"
+#include "support/TextCompare.h"
 #include "support/VbStrings.h"
 
-#include <cctype>
-#include <cstdlib>
 #include <filesystem>
 #include <set>
-
-#include <unistd.h>
 
 namespace flowloom::designer {
 
@@ -28,39 +25,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// "icons" in the program's folder, or in the cache folder where the
-// program's folder cannot be written.
-fs::path IconsFolder() {
-    static const fs::path folder = [] {
-        std::error_code ec;
-        fs::path beside = ProgramFolder() / "icons";
-        fs::create_directories(beside, ec);
-        if (fs::is_directory(beside, ec) && ::access(beside.c_str(), W_OK) == 0) return beside;
-        const char* cache = std::getenv("XDG_CACHE_HOME");
-        const char* home = std::getenv("HOME");
-        fs::path base = cache && *cache ? fs::path(cache) : fs::path(home ? home : "/tmp") / ".cache";
-        return base / "flowloom" / "icons";
-    }();
-    return folder;
-}
-
-std::string Upper(std::string text) {
-    for (char& c : text) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    return text;
-}
-
 // The picture of a cell, written from the program's resources on first use;
 // "" when it cannot be had.
 std::string GetPictureHtml(const std::string& name, const std::string& extension) {
     static std::set<std::string> known;  // files found or written already
     try {
-        const fs::path file = IconsFolder() / (name + extension);
+        static const fs::path folder = WritableProgramSubfolder("icons");
+        const fs::path file = folder / (name + extension);
         if (!known.count(file.string())) {
             std::error_code ec;
             if (!fs::exists(file, ec)) {
                 fs::create_directories(file.parent_path(), ec);
                 if (!fs::is_directory(file.parent_path(), ec)) return {};
-                if (!ExtractResourceFile(file.string(), Upper(name), "FILES")) return {};
+                if (!ExtractResourceFile(file.string(), ToUpper(name), "FILES")) return {};
             }
             known.insert(file.string());
         }

@@ -5,11 +5,11 @@
 #include "model/Process.h"
 #include "model/Processes.h"
 #include "support/AppPaths.h"
+#include "support/FileHelpers.h"
 #include "support/Prompts.h"
 #include "support/ReportError.h"
 #include "support/TextCompare.h"
 
-#include <filesystem>
 
 namespace flowloom::designer {
 
@@ -18,11 +18,6 @@ namespace {
 constexpr const char* kFileFilter = "XML files (*.xml)|*.xml|All Files (*.*)|*.*";
 // What Save raises when there is no model to write.
 constexpr std::int32_t kNothingToSave = static_cast<std::int32_t>(0x80040201u);
-
-bool FileExists(const std::string& file) {
-    std::error_code ec;
-    return !file.empty() && std::filesystem::is_regular_file(file, ec);
-}
 
 }  // namespace
 

@@ -8,12 +8,12 @@
 #include "model/Database.h"
 #include "model/Processes.h"
 #include "sheets/PropertySheets.h"
+#include "support/FileHelpers.h"
 #include "support/Prompts.h"
 #include "support/ReportError.h"
 #include "support/TextCompare.h"
 
 #include <cstdlib>
-#include <filesystem>
 
 namespace flowloom::designer {
 
@@ -124,8 +124,7 @@ std::shared_ptr<Activity> frmDesigner::SelectedActivity() const {
 void frmDesigner::LoadDatabaseObjects(const std::string& databaseName) {
     const auto database = Processes_ ? Processes_->GetDatabaseByName(databaseName) : nullptr;
     if (!database || EqualsNoCase(database->Location, mAccessObjectsLocation)) return;
-    std::error_code ec;
-    if (!std::filesystem::is_regular_file(database->Location, ec)) return;
+    if (!FileExists(database->Location)) return;
     // Reading the objects of an Access file comes with the database browser;
     // the location is remembered so that it is not inspected twice in a row.
     mAccessObjectsLocation = database->Location;

@@ -27,10 +27,11 @@ bool IsWritableFolder(const fs::path& folder) {
     return fs::is_directory(folder, ec) && ::access(folder.c_str(), W_OK) == 0;
 }
 
-fs::path StateFolder() {
+// $VARIABLE/flowloom, else ~/FALLBACK/flowloom, else in the temporary folder.
+fs::path XdgFolder(const char* variable, const fs::path& fallback) {
     fs::path base;
-    if (const char* xdg = std::getenv("XDG_STATE_HOME"); xdg && *xdg) base = xdg;
-    else if (const char* home = std::getenv("HOME"); home && *home) base = fs::path(home) / ".local" / "state";
+    if (const char* xdg = std::getenv(variable); xdg && *xdg) base = xdg;
+    else if (const char* home = std::getenv("HOME"); home && *home) base = fs::path(home) / fallback;
     else base = fs::temp_directory_path();
     return base / "flowloom";
 }
@@ -57,10 +58,20 @@ void SetProgramFolder(const fs::path& folder) { Override() = folder; }
 fs::path WritableProgramFolder() {
     fs::path folder = ProgramFolder();
     if (IsWritableFolder(folder)) return folder;
-    fs::path state = StateFolder();
+    fs::path state = XdgFolder("XDG_STATE_HOME", fs::path(".local") / "state");
     std::error_code ec;
     fs::create_directories(state, ec);
     return state;
+}
+
+fs::path WritableProgramSubfolder(const std::string& name) {
+    std::error_code ec;
+    fs::path beside = ProgramFolder() / name;
+    fs::create_directories(beside, ec);
+    if (IsWritableFolder(beside)) return beside;
+    fs::path cache = XdgFolder("XDG_CACHE_HOME", ".cache") / name;
+    fs::create_directories(cache, ec);
+    return cache;
 }
 
 }  // namespace flowloom

@@ -18,5 +18,9 @@ void SetProgramFolder(const std::filesystem::path& folder);  // empty restores t
 // default processes file, icons): the program's folder when it is writable,
 // else $XDG_STATE_HOME/flowloom (~/.local/state/flowloom), created on demand.
 std::filesystem::path WritableProgramFolder();
+// A folder of files the program makes for itself and can make again (the
+// cell pictures): NAME in the program's folder where that can be written,
+// else $XDG_CACHE_HOME/flowloom/NAME (~/.cache/flowloom/NAME). Created on demand.
+std::filesystem::path WritableProgramSubfolder(const std::string& name);
 
 }  // namespace flowloom
