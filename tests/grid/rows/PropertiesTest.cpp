@@ -18,9 +18,6 @@ public:
     std::string TextTrue() const override { return "Yes"; }
     std::string TextFalse() const override { return "No"; }
     bool IsSelected(const Property& row) const override { return &row == selected; }
-    void Redraw() override { ++redraws; }
-    void SetEditText(const std::string& text) override { editText = text; }
-    void RebuildVisibleRows() override { ++rebuilds; }
     void RowsCleared() override { ++clears; }
     void ClearSelectionIf(const Property& row) override {
         if (&row == selected) selected = nullptr;
@@ -28,16 +25,14 @@ public:
     void CustomDisplayText(Property&, std::string& text) override { text = "<" + text + ">"; }
 
     const Property* selected = nullptr;
-    int redraws = 0;
-    int rebuilds = 0;
     int clears = 0;
-    std::string editText;
 };
 
-std::int32_t ErrorNumber(auto call) {
+std::int32_t ErrorNumber(auto call, std::string* source = nullptr) {
     try {
         call();
     } catch (const VbError& e) {
+        if (source) *source = e.Source();
         return e.Number();
     }
     return 0;
@@ -49,17 +44,7 @@ std::string Names(const Properties& rows) {
     return names;
 }
 
-TEST(PropertyRows, ChangedFollowsLaterChangesOnly) {
-    Properties rows;
-    Property& row = rows.Add("Name", ExPropText, "first");
-    EXPECT_FALSE(row.Changed());
-    row.SetValue("first");
-    EXPECT_FALSE(row.Changed());
-    row.SetValue("second");
-    EXPECT_TRUE(row.Changed());
-}
-
-TEST(PropertyRows, ValuesByType) {
+TEST(PropertyRows, ValuesByTypeAndChanged) {
     StripedOwner owner;
     Properties rows(&owner);
     Property& color = rows.Add("c", ExPropColor, "255");
@@ -74,8 +59,6 @@ TEST(PropertyRows, ValuesByType) {
     EXPECT_EQ(html.value(), "000000");
     Property& truth = rows.Add("b", ExPropBoolean, "TRUE");
     EXPECT_EQ(truth.value(), "Yes");
-    truth.SetValue("Yes");
-    EXPECT_EQ(truth.value(), "Yes");
     truth.SetValue("maybe");
     EXPECT_EQ(truth.value(), "No");
     Property& limited = rows.Add("m", ExPropText, "abcdef");
@@ -83,21 +66,15 @@ TEST(PropertyRows, ValuesByType) {
     EXPECT_EQ(limited.value(), "abc");
     limited.SetValue("wxyz");
     EXPECT_EQ(limited.value(), "wxy");
-}
 
-TEST(PropertyRows, DateFormatAndFailuresKeepTheOldValue) {
-    Properties rows;
-    Property& date = rows.Add("d", ExPropDate, "2026-11-23");
-    EXPECT_EQ(date.DataFormat(), "dd.mm.yyyy");
-    EXPECT_EQ(date.value(), "23.11.2026");
-    date.SetValue("not a date");
-    EXPECT_EQ(date.value(), "23.11.2026");
-    date.SetDataFormat("yyyy-mm-dd");
-    EXPECT_EQ(date.value(), "2026-11-23");
     Property& number = rows.Add("n", ExPropNumber, "1234.5");
     number.SetDataFormat("#,##0.00");
     EXPECT_EQ(number.value(), "1,234.50");
+    EXPECT_FALSE(number.Changed());  // a new format is no new value
+    number.SetValue("1,234.50");
     EXPECT_FALSE(number.Changed());
+    number.SetValue("7");
+    EXPECT_TRUE(number.Changed());
 }
 
 // A control whose locale writes dates with the month's name.
@@ -115,7 +92,7 @@ private:
     DateNames names_;
 };
 
-TEST(PropertyRows, DatesShowTheMonthAsTheFormatSaysAndAreReadBackByName) {
+TEST(PropertyRows, DatesShowTheMonthAsTheFormatSaysAndBadDatesKeepTheOldValue) {
     NamedMonthOwner owner;
     Properties rows(&owner);
     Property& date = rows.Add("Due", ExPropDate, "2026-11-23");
@@ -123,11 +100,12 @@ TEST(PropertyRows, DatesShowTheMonthAsTheFormatSaysAndAreReadBackByName) {
     date.SetDataFormat("dddd, d mmmm yyyy");
     EXPECT_EQ(date.value(), "Monday, 23 November 2026");
     date.SetDataFormat("yyyy-mm-dd");
-    EXPECT_EQ(date.value(), "2026-11-23");
     date.SetValue("5 Dec 2026");  // English names are understood in any locale
     EXPECT_EQ(date.value(), "2026-12-05");
-    date.SetValue("31.02.2026");
-    EXPECT_EQ(date.value(), "2026-12-05");
+    for (const char* bad : {"31.02.2026", "not a date"}) {
+        date.SetValue(bad);
+        EXPECT_EQ(date.value(), "2026-12-05") << bad;
+    }
 }
 
 TEST(PropertyRows, DatesAreReadInTheDayAndMonthOrderOfTheirFormat) {
@@ -139,17 +117,6 @@ TEST(PropertyRows, DatesAreReadInTheDayAndMonthOrderOfTheirFormat) {
     EXPECT_EQ(ErrorNumber([] { FormatWithDataFormat("13/13/2026", "m/d/yyyy"); }), 13);
 }
 
-TEST(PropertyRows, TypeDefaultsOfNewRows) {
-    Properties rows;
-    Property& file = rows.Add("f", ExPropFile, "");
-    EXPECT_EQ(file.DialogFlags(), 0x80004);
-    EXPECT_EQ(file.DialogFilter(), "All Files (*.*)|*.*");
-    EXPECT_EQ(rows.Add("font", ExPropFont, "").DialogFlags(), 65);
-    EXPECT_FALSE(rows.Add("t", ExPropText, "").LockedEdit());
-    EXPECT_FALSE(rows.Add("n", ExPropNumber, "").LockedEdit());
-    EXPECT_TRUE(rows.Add("l", ExPropCustomList, "").LockedEdit());
-}
-
 TEST(PropertyRows, DisplayTextOfFontsMemosAndCustomData) {
     StripedOwner owner;
     Properties rows(&owner);
@@ -158,22 +125,10 @@ TEST(PropertyRows, DisplayTextOfFontsMemosAndCustomData) {
     EXPECT_EQ(font.value(), std::string("Arial\0" "10\0" "True\0" "False\0" "True\0" "False", 30));
     EXPECT_EQ(font.DisplayText(), "Arial");
     EXPECT_EQ(font.ValueFont(), (FontValue{"Arial", 10, true, false, true, false}));
-    EXPECT_EQ(ParseFontValue("Courier").name, "Courier");
     Property& memo = rows.Add("m", ExPropMemo, "long\r\ntext");
     EXPECT_EQ(memo.EditText(), "(Text)");
     memo.SetUseCustomData(true);
     EXPECT_EQ(memo.DisplayText(), "<long\r\ntext>");
-}
-
-TEST(PropertyRows, SelectedRowUpdatesTheEditBoxInsteadOfRedrawing) {
-    StripedOwner owner;
-    Properties rows(&owner);
-    Property& row = rows.Add("a", ExPropText, "");
-    owner.selected = &row;
-    const int redraws = owner.redraws;
-    row.SetValue("typed");
-    EXPECT_EQ(owner.editText, "typed");
-    EXPECT_EQ(owner.redraws, redraws);
 }
 
 TEST(PropertyRows, StripesFollowPositionsButOwnColoursStay) {
@@ -182,7 +137,6 @@ TEST(PropertyRows, StripesFollowPositionsButOwnColoursStay) {
     rows.Add("a", ExPropText, "");
     rows.Add("b", ExPropText, "");
     rows.Add("own", ExPropText, "", OleColor{0x00FF00});
-    EXPECT_EQ(rows.Item(1).BackColor(), 0xFFFFFFu);
     EXPECT_EQ(rows.Item(2).BackColor(), 0xEEEEEEu);
     rows.AddEx(1, "first", ExPropText, "");
     EXPECT_EQ(Names(rows), "first,a,b,own");
@@ -190,7 +144,6 @@ TEST(PropertyRows, StripesFollowPositionsButOwnColoursStay) {
     EXPECT_EQ(rows.Item(3).BackColor(), 0xFFFFFFu);
     EXPECT_EQ(rows.Item(4).BackColor(), 0x00FF00u);
     EXPECT_EQ(rows.Item(4).Index(), 4);
-    EXPECT_GE(owner.rebuilds, 1);
     rows.Remove(1);
     EXPECT_EQ(rows.Item(1).BackColor(), 0xFFFFFFu);
     EXPECT_EQ(rows.Item(1).Index(), 1);
@@ -204,14 +157,11 @@ TEST(PropertyRows, LookupsAndErrors) {
     EXPECT_EQ(ErrorNumber([&] { rows.Item(0); }), 9);
     EXPECT_EQ(ErrorNumber([&] { rows.Item(2); }), 9);
     EXPECT_EQ(ErrorNumber([&] { rows.SetCount(5); }), 380);
-    EXPECT_EQ(ErrorNumber([&] { rows.Item(1).SetItemType(14); }), 380);
-    EXPECT_EQ(rows.Item(1).ItemType(), ExPropText);
     EXPECT_EQ(ErrorNumber([&] { rows.Item(1).SetBorderStyle(3); }), 380);
-    try {
-        rows.Item(1).SetItemType(-1);
-    } catch (const VbError& e) {
-        EXPECT_EQ(e.Source(), "PropertyList.Properties.Item.ItemType");
-    }
+    std::string source;
+    EXPECT_EQ(ErrorNumber([&] { rows.Item(1).SetItemType(14); }, &source), 380);
+    EXPECT_EQ(source, "PropertyList.Properties.Item.ItemType");
+    EXPECT_EQ(rows.Item(1).ItemType(), ExPropText);
 }
 
 TEST(PropertyRows, RemovingTheOnlyRowClearsAndOthersAreErrors) {
@@ -231,27 +181,20 @@ TEST(PropertyRows, RemovingTheOnlyRowClearsAndOthersAreErrors) {
     EXPECT_EQ(Names(rows), "a");
 }
 
-TEST(PropertyRows, SortingKeepsAFirstHeaderFirst) {
+// The names after sorting rows named so; names starting with "H" are headers.
+std::string Sorted(std::initializer_list<const char*> names, bool descending = false) {
     Properties rows;
-    rows.Add("Header", ExPropHeader, "");
-    for (const char* name : {"delta", "Bravo", "alpha", "charlie"}) rows.Add(name, ExPropText, "");
-    rows.SortItems(false);
-    EXPECT_EQ(Names(rows), "Header,alpha,Bravo,charlie,delta");
-    rows.SortItems(true);
-    EXPECT_EQ(Names(rows), "Header,delta,charlie,Bravo,alpha");
-    EXPECT_EQ(rows.Item(5).Index(), 5);
+    for (const std::string name : names) rows.Add(name, name[0] == 'H' ? ExPropHeader : ExPropText, "");
+    rows.SortItems(descending);
+    EXPECT_EQ(rows.Item(rows.Count()).Index(), rows.Count());
+    return Names(rows);
 }
 
-TEST(PropertyRows, SortingRunsBetweenHeadersAndASecondPlaceHeaderJoinsIn) {
-    Properties rows;
-    for (const char* name : {"z", "y", "H1", "b", "a"}) rows.Add(name, std::string(name) == "H1" ? ExPropHeader : ExPropText, "");
-    rows.SortItems(false);
-    EXPECT_EQ(Names(rows), "y,z,H1,a,b");
-
-    Properties second;
-    for (const char* name : {"m", "B-header", "a"}) second.Add(name, std::string(name) == "B-header" ? ExPropHeader : ExPropText, "");
-    second.SortItems(false);
-    EXPECT_EQ(Names(second), "a,B-header,m");
+TEST(PropertyRows, SortingRunsBetweenHeaders) {
+    EXPECT_EQ(Sorted({"Header", "delta", "Bravo", "alpha", "charlie"}), "Header,alpha,Bravo,charlie,delta");
+    EXPECT_EQ(Sorted({"Header", "delta", "Bravo", "alpha", "charlie"}, true), "Header,delta,charlie,Bravo,alpha");
+    EXPECT_EQ(Sorted({"z", "y", "H1", "b", "a"}), "y,z,H1,a,b");
+    EXPECT_EQ(Sorted({"m", "H-second", "a"}), "a,H-second,m");  // a header in second place joins the sort
 }
 
 }  // namespace

@@ -22,6 +22,17 @@ std::size_t RecordingEvents::Count(const std::string& prefix) const {
     return static_cast<std::size_t>(std::count_if(log.begin(), log.end(), [&](const std::string& e) { return e.rfind(prefix, 0) == 0; }));
 }
 
+std::vector<Property*> ShownRows(PropertyList& grid) {
+    const QWidget* viewport = grid.findChild<QAbstractScrollArea*>("lst")->viewport();
+    std::vector<Property*> shown;
+    for (int y = 0; y < viewport->height(); ++y) {
+        const QPoint at = viewport->mapTo(&grid, QPoint(10, y));
+        Property* row = grid.HitTest(at.x(), at.y());
+        if (row && (shown.empty() || shown.back() != row)) shown.push_back(row);
+    }
+    return shown;
+}
+
 GridHarness::GridHarness() : window_(std::make_unique<QWidget>()) {
     auto* layout = new QVBoxLayout(window_.get());
     grid_ = new PropertyList(window_.get());

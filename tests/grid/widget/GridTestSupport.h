@@ -66,6 +66,9 @@ public:
 // The number of the error a call raises (0 for none), and its source.
 std::int32_t ErrorNumber(const std::function<void()>& call, std::string* source = nullptr);
 
+// The rows the grid's list shows now, top to bottom.
+std::vector<Property*> ShownRows(PropertyList& grid);
+
 // A shown, active window holding one grid, with ways to reach its parts.
 class GridHarness {
 public:

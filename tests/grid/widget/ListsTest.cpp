@@ -1,8 +1,6 @@
 // Drop lists, double-click cycling of lists and booleans, and the memo pop-up.
 #include "GridTestSupport.h"
 
-#include "grid/widget/Popups.h"
-
 #include <gtest/gtest.h>
 
 namespace flowloom::grid::testing {
@@ -49,7 +47,7 @@ TEST(GridDropList, FilledFromNeedDataAndTakenByMouse) {
     ASSERT_TRUE(h.DropList()->isVisible());
     EXPECT_TRUE(h.sink.Logged("NeedData Field"));
     EXPECT_EQ(h.DropEntries()->count(), 12);
-    EXPECT_EQ(h.DropList()->width(), h.Edit()->width() + h.Button()->width());
+    EXPECT_EQ(h.DropList()->width(), h.Edit()->width() + h.Button()->width());  // below the edit box and arrow
     EXPECT_EQ(h.DropList()->mapToGlobal(QPoint(0, 0)), h.Edit()->mapToGlobal(QPoint(0, h.Edit()->height())));
 
     const QRect third = h.DropEntries()->visualItemRect(h.DropEntries()->item(2));
@@ -57,62 +55,64 @@ TEST(GridDropList, FilledFromNeedDataAndTakenByMouse) {
     EXPECT_FALSE(h.DropList()->isVisible());
     EXPECT_TRUE(h.sink.Logged("DropdownPick Field 2"));
     EXPECT_EQ(row.value(), "Entry 3");
-}
 
-TEST(GridDropList, HeightRulesAndSizeModes) {
-    EXPECT_EQ(DropList::ListHeight(15, 8), (15 + 2) * 8);
-    EXPECT_EQ(DropList::ListHeight(15, 9), 15 * 8 + 2);
-    EXPECT_EQ(DropList::ListHeight(15, 1), 17);
-
-    GridHarness h;
-    Property& row = h.grid().Properties().Add("Kind", ExPropCustomList, "");
-    row.SetListItems(Entries(3));
     row.SetListSizeMode(1);
     row.SetListWidth(222);
-    h.Select(0);
     h.ClickButton();
     EXPECT_EQ(h.DropList()->width(), 222);
     h.Key(h.DropEntries(), Qt::Key_Escape);
-
-    row.SetListSizeMode(2);
-    row.SetListItems(Entries(1));
-    h.ClickButton();
-    EXPECT_EQ(h.DropList()->width(), 222);  // left as the last opening had it
-    EXPECT_EQ(h.DropEntries()->count(), 1);
 }
 
-TEST(GridDropList, ThePressThatClosesTheListOnItsArrowDoesNotReopenItButTheNextDoes) {
+TEST(GridPopups, ThePressThatClosesAPopUpOnItsArrowCommitsAndDoesNotReopenItButTheNextDoes) {
     GridHarness h;
-    Property& row = h.grid().Properties().Add("Flag", ExPropBoolean, "True");
+    Property& flag = h.grid().Properties().Add("Flag", ExPropBoolean, "True");
+    Property& memo = h.grid().Properties().Add("Body", ExPropMemo, "");
     h.Select(0);
     h.ClickButton();
     ASSERT_TRUE(h.DropList()->isVisible());
     EXPECT_EQ(h.DropEntries()->count(), 2);
-    EXPECT_EQ(h.DropEntries()->currentRow(), 0);
-
     h.ClickButton();  // lands on the pop-up, which closes and hands the press on to the arrow
     EXPECT_FALSE(h.DropList()->isVisible());
     h.ClickButton();
     EXPECT_TRUE(h.DropList()->isVisible());
     h.Key(h.DropEntries(), Qt::Key_Escape);
-    EXPECT_EQ(row.value(), "True");
+    EXPECT_EQ(flag.value(), "True");
+
+    h.Select(1);
+    h.ClickButton();
+    ASSERT_TRUE(h.Memo()->isVisible());
+    QTest::keyClicks(h.Memo()->focusProxy(), "note");
+    h.ClickButton();
+    EXPECT_FALSE(h.Memo()->isVisible());
+    EXPECT_EQ(memo.value(), "note\r\n");
+    h.ClickButton();
+    EXPECT_TRUE(h.Memo()->isVisible());
 }
 
-TEST(GridDropList, APressOutsideTheOpenListClosesItAndReachesWhatWasClicked) {
+TEST(GridPopups, APressOutsideAPopUpClosesItAndReachesWhatWasClicked) {
     GridHarness h;
     Property& kind = h.grid().Properties().Add("Kind", ExPropCustomList, "One");
     kind.SetListItems(std::vector<std::string>{"One", "Two"});
+    Property& memo = h.grid().Properties().Add("Body", ExPropMemo, "text");
     Property& other = h.grid().Properties().Add("Other", ExPropText, "");
     h.Select(0);
     h.ClickButton();
     ASSERT_TRUE(h.DropList()->isVisible());
-
-    h.ClickCell(1, false);
+    h.ClickCell(2, false);
     EXPECT_FALSE(h.DropList()->isVisible());
     EXPECT_TRUE(h.sink.Logged("SelChange Kind>Other"));
     EXPECT_EQ(h.grid().SelectedItem(), &other);
     EXPECT_TRUE(h.Edit()->isVisible());  // the release followed the press to the list
     EXPECT_EQ(kind.value(), "One");
+
+    h.Select(1);
+    h.ClickButton();
+    ASSERT_TRUE(h.Memo()->isVisible());
+    h.ClickCell(2, false);
+    QApplication::processEvents();
+    EXPECT_FALSE(h.Memo()->isVisible());
+    EXPECT_EQ(memo.value(), "text\r\n");  // the memo commits
+    EXPECT_EQ(h.grid().SelectedItem(), &other);
 }
 
 TEST(GridDropList, ShortListsEndWithTheirLastEntryAndLongOnesShowEightWholeEntries) {
@@ -148,34 +148,30 @@ TEST(GridDropList, ArrowKeysInTheEditBoxRunThroughAClosedList) {
     EXPECT_EQ(row.value(), "Three");
 }
 
-TEST(GridDoubleClick, TogglesABooleanUnlessCancelled) {
+TEST(GridDoubleClick, TogglesABooleanAndCyclesAListUnlessCancelled) {
     GridHarness h;
-    Property& row = h.grid().Properties().Add("Flag", ExPropBoolean, "false");
     h.grid().SetTextTrue("Yes");
     h.grid().SetTextFalse("No");
-    row.SetValue("no");
-    EXPECT_EQ(row.value(), "No");
-    QTest::mouseDClick(h.List(), Qt::LeftButton, {}, h.Cell(0, false));
-    EXPECT_EQ(row.value(), "Yes");
+    Property& flag = h.grid().Properties().Add("Flag", ExPropBoolean, "No");
+    Property& kind = h.grid().Properties().Add("Kind", ExPropCustomList, "B");
+    kind.SetListItems(std::vector<std::string>{"A", "B"});
+    const auto doubleClick = [&h](int visibleIndex) { QTest::mouseDClick(h.List(), Qt::LeftButton, {}, h.Cell(visibleIndex, false)); };
+    doubleClick(0);
+    EXPECT_EQ(flag.value(), "Yes");
     EXPECT_TRUE(h.sink.Logged("DropdownPick Flag 0"));
-    QTest::mouseDClick(h.List(), Qt::LeftButton, {}, h.Cell(0, false));
-    EXPECT_EQ(row.value(), "No");
+    doubleClick(0);
+    EXPECT_EQ(flag.value(), "No");
     EXPECT_TRUE(h.sink.Logged("DropdownPick Flag 1"));
 
-    h.sink.cancel = true;
-    QTest::mouseDClick(h.List(), Qt::LeftButton, {}, h.Cell(0, false));
-    EXPECT_EQ(row.value(), "No");
-    EXPECT_EQ(h.Edit()->text(), "No");
-}
-
-TEST(GridDoubleClick, CyclesAListAndWrapsBehindTheLast) {
-    GridHarness h;
-    Property& row = h.grid().Properties().Add("Kind", ExPropCustomList, "B");
-    row.SetListItems(std::vector<std::string>{"A", "B"});
-    QTest::mouseDClick(h.List(), Qt::LeftButton, {}, h.Cell(0, false));
-    EXPECT_EQ(row.value(), "A");  // "B" was last: the first comes next
+    doubleClick(1);
+    EXPECT_EQ(kind.value(), "A");  // "B" was last: the first comes next
     QTest::mouseDClick(h.Edit(), Qt::LeftButton, {}, QPoint(3, 3));
-    EXPECT_EQ(row.value(), "B");
+    EXPECT_EQ(kind.value(), "B");
+
+    h.sink.cancel = true;
+    doubleClick(0);
+    EXPECT_EQ(flag.value(), "No");
+    EXPECT_EQ(h.Edit()->text(), "No");
 }
 
 TEST(GridMemo, EnterCommitsWithALineEndAndEscDrops) {
@@ -203,34 +199,6 @@ TEST(GridMemo, EnterCommitsWithALineEndAndEscDrops) {
     ASSERT_TRUE(h.Memo()->isVisible());
     h.Key(editor, Qt::Key_Return);  // unchanged text that ends in a line end stays as it is
     EXPECT_EQ(row.value(), "one\r\ntwo\r\n");
-}
-
-TEST(GridMemo, APressOutsideCommitsAndReachesWhatWasClicked) {
-    GridHarness h;
-    Property& row = h.grid().Properties().Add("Body", ExPropMemo, "text");
-    Property& other = h.grid().Properties().Add("Other", ExPropText, "");
-    h.Select(0);
-    h.ClickButton();
-    ASSERT_TRUE(h.Memo()->isVisible());
-    QTest::mouseClick(h.List(), Qt::LeftButton, {}, h.Cell(1, false));
-    QApplication::processEvents();
-    EXPECT_FALSE(h.Memo()->isVisible());
-    EXPECT_EQ(row.value(), "text\r\n");
-    EXPECT_EQ(h.grid().SelectedItem(), &other);
-}
-
-TEST(GridMemo, ThePressThatCommitsOnTheArrowDoesNotReopenIt) {
-    GridHarness h;
-    Property& row = h.grid().Properties().Add("Body", ExPropMemo, "");
-    h.Select(0);
-    h.ClickButton();
-    ASSERT_TRUE(h.Memo()->isVisible());
-    QTest::keyClicks(h.Memo()->focusProxy(), "note");
-    h.ClickButton();
-    EXPECT_FALSE(h.Memo()->isVisible());
-    EXPECT_EQ(row.value(), "note\r\n");
-    h.ClickButton();
-    EXPECT_TRUE(h.Memo()->isVisible());
 }
 
 TEST(GridDropList, AControlDestroyedWithItsListOpenLeavesNothingBehind) {
