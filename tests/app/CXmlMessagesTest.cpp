@@ -49,30 +49,17 @@ TEST_F(Catalogue, DuplicateCodeEndsTheReadingButKeepsWhatCameBefore) {
     EXPECT_EQ(messages.GetMessage("2"), "");
 }
 
-TEST_F(Catalogue, EmptyMessagesNodeKeepsThePreviousTexts) {
+TEST_F(Catalogue, AFailedOrEmptyLoadKeepsTheTextsAndANewOneReplacesThem) {
     ASSERT_TRUE(Load(R"(<R><Messages><M Code="1" Text="a"/></Messages></R>)"));
     ASSERT_TRUE(Load(R"(<R><Messages/></R>)"));
-    EXPECT_EQ(messages.GetMessage("1"), "a");
-}
-
-TEST_F(Catalogue, MissingFileFailsWithABoxAndKeepsTheTexts) {
-    ASSERT_TRUE(Load(R"(<R><Messages><M Code="1" Text="a"/></Messages></R>)"));
     EXPECT_FALSE(messages.Load((folder / "absent.xml").string()));
     ASSERT_EQ(prompts.boxes.size(), 1u);
     EXPECT_EQ(prompts.boxes[0].prompt.rfind("Error: Line ", 0), 0u);
     EXPECT_EQ(messages.GetMessage("1"), "a");
-}
-
-TEST_F(Catalogue, ANewCatalogueReplacesTheOldTexts) {
-    ASSERT_TRUE(Load(R"(<R><Messages><M Code="1" Text="a"/></Messages></R>)"));
     ASSERT_TRUE(Load(R"(<R><Messages><M Code="2" Text="b"/></Messages></R>)"));
     EXPECT_EQ(messages.GetMessage("1"), "");
     EXPECT_EQ(messages.GetMessage("2"), "b");
     EXPECT_EQ(messages.Messages().Count(), 1);
-}
-
-TEST_F(Catalogue, TheProgramHasOneSharedCatalogue) {
-    EXPECT_EQ(&Messages(), &Messages());
 }
 
 }  // namespace

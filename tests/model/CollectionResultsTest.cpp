@@ -39,21 +39,7 @@ TEST_F(CollectionResults, ProcessesRefuseADuplicateNameWithTheirBoxAndSayNo) {
     EXPECT_TRUE(prompts.errors.empty());
 }
 
-TEST_F(CollectionResults, DatasourcesIgnoreAnExistingNameSilently) {
-    Datasources datasources;
-    auto first = std::make_shared<Datasource>();
-    first->SetName("Customers");
-    auto second = std::make_shared<Datasource>();
-    second->SetName("customers");
-    EXPECT_TRUE(datasources.Add(first));
-    EXPECT_FALSE(datasources.Add(second));
-    EXPECT_TRUE(prompts.boxes.empty());
-    EXPECT_TRUE(prompts.errors.empty());
-    EXPECT_TRUE(datasources.Remove(CollectionPosition{1}));
-    EXPECT_FALSE(datasources.Remove(CollectionPosition{1}));
-}
-
-TEST_F(CollectionResults, DatabasesRefuseAnExistingNameWithTheirBox) {
+TEST_F(CollectionResults, DatabasesRefuseAnExistingNameWithTheirBoxDatasourcesSilently) {
     Databases databases;
     auto database = std::make_shared<Database>();
     database->name = "Northwind";
@@ -61,6 +47,18 @@ TEST_F(CollectionResults, DatabasesRefuseAnExistingNameWithTheirBox) {
     EXPECT_FALSE(databases.Add(database));
     ASSERT_EQ(prompts.boxes.size(), 1u);
     EXPECT_EQ(prompts.boxes[0].prompt, "Database Northwind already exists.");
+
+    Datasources datasources;
+    auto first = std::make_shared<Datasource>();
+    first->SetName("Customers");
+    auto second = std::make_shared<Datasource>();
+    second->SetName("customers");
+    EXPECT_TRUE(datasources.Add(first));
+    EXPECT_FALSE(datasources.Add(second));
+    EXPECT_EQ(prompts.boxes.size(), 1u);
+    EXPECT_TRUE(prompts.errors.empty());
+    EXPECT_TRUE(datasources.Remove(CollectionPosition{1}));
+    EXPECT_FALSE(datasources.Remove(CollectionPosition{1}));
 }
 
 TEST_F(CollectionResults, AnActivityAddedTwiceIsReportedAndRefused) {

@@ -3,7 +3,6 @@
 #include "ModelFixture.h"
 
 #include "model/Process.h"
-#include "options/Options.h"
 #include "support/SafeSave.h"
 #include "testsupport/ChildProcess.h"
 #include "testsupport/XmlReferee.h"
@@ -88,13 +87,6 @@ TEST_F(FileLifeCycle, AShortFileThatIsNoProcessesFileKeepsItsBackup) {
     }
 }
 
-TEST_F(FileLifeCycle, AnOldVersionRewrittenAsUsualSaysNothingOfAReplacement) {
-    auto processes = LoadText(R"(<Processes><Process Name="a"/></Processes>)");
-    EXPECT_TRUE(processes->LastLoadRewrite().written);
-    EXPECT_TRUE(processes->LastLoadRewrite().notLoadedReason.empty());
-    EXPECT_EQ(Names(), std::set<std::string>{"processes.xml"});  // longer: the backup went
-}
-
 TEST_F(FileLifeCycle, ARewriteThatFailsIsReportedAndTold) {
     const std::string old = R"(<Processes><Process Name="a"/></Processes>)";
     SetSaveFaultHook([](SaveStep step) { return step == SaveStep::Write ? ENOSPC : 0; });
@@ -109,35 +101,13 @@ TEST_F(FileLifeCycle, ARewriteThatFailsIsReportedAndTold) {
     EXPECT_EQ(Names(), std::set<std::string>{"processes.xml"});
 }
 
-TEST_F(FileLifeCycle, AFileLoadedThroughALinkIsRewrittenBehindIt) {
-    fs::create_directory(folder / "data");
-    WriteAll(folder / "data" / "real.xml", R"(<Processes><Process Name="a"/></Processes>)");
-    fs::create_symlink("data/real.xml", folder / "processes.xml");
-    auto processes = Processes::Create();
-    processes->Load((folder / "processes.xml").string());
-    EXPECT_TRUE(processes->LastLoadRewrite().written);
-    EXPECT_TRUE(fs::is_symlink(folder / "processes.xml"));
-    EXPECT_EQ(ReadAll(folder / "data" / "real.xml"),
-              R"(<?xml version="1.0" encoding="UTF-8"?><Processes Version="1"><Process Name="a" ProcessRecords="Current"/></Processes>)");
-}
-
 TEST_F(FileLifeCycle, WhateverTheModelHoldsTheFileIsWellFormed) {
     auto processes = Processes::Create();
-    processes->SetVersion(1);
     auto process = Process::Create();
     process->SetName("tab\tbell\x07" "bad\xFF" "end");
     processes->Add(process);
-    auto group = std::make_shared<OptionItem>();
-    group->name = "Fiprintout259:";
-    processes->Options()->Add(group, group->name);
-    auto prefixed = std::make_shared<OptionItem>();
-    prefixed->name = "Mail";
-    prefixed->Attributes->Add(std::make_shared<CDictionary>(CDictionary{"p:Style", std::string("1")}), "p:Style");
-    prefixed->Attributes->Add(std::make_shared<CDictionary>(CDictionary{"Size", std::string("2")}), "Size");
-    processes->Options()->Add(prefixed, prefixed->name);
     const std::string xml = processes->XML();
     EXPECT_EQ(ConformantParserFault(xml), std::nullopt) << xml;
-    EXPECT_NE(xml.find(R"(<Mail Size="2"/>)"), std::string::npos) << xml;
     EXPECT_NE(xml.find("Name=\"tab&#9;bell\uFFFDbad\uFFFDend\""), std::string::npos) << xml;
 }
 

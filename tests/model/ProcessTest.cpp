@@ -62,18 +62,12 @@ TEST_F(ProcessElement, ProcessRecordsReadsWordsNumbersAndIgnoresOthers) {
     EXPECT_EQ(First(R"(<Process Name="p" ProcessRecords=" selected "/>)")->ProcessRecords(), 2);
     EXPECT_EQ(First(R"(<Process Name="p" ProcessRecords="1"/>)")->ProcessRecords(), 1);
     EXPECT_EQ(First(R"(<Process Name="p" ProcessRecords="Some"/>)")->ProcessRecords(), 0);
-    EXPECT_EQ(First(R"(<Process Name="p"/>)")->ProcessRecords(), 0);
 }
 
-TEST_F(ProcessElement, BooleansFollowTheFileRule) {
-    auto process = First(R"(<Process Name="p" abortonerror="False" OnErrorNotifyUser="0"/>)");
-    EXPECT_FALSE(process->AbortOnError());
-    EXPECT_FALSE(process->OnErrorNotifyUser());
-    process = First(R"(<Process Name="p" AbortOnError="5" OnErrorNotifyUser="True"/>)");
+TEST_F(ProcessElement, BooleansFollowTheFileRuleWhateverTheAttributeCase) {
+    auto process = First(R"(<Process Name="p" abortonerror="5" OnErrorNotifyUser="yes"/>)");
     EXPECT_TRUE(process->AbortOnError());
-    EXPECT_TRUE(process->OnErrorNotifyUser());
-    process = First(R"(<Process Name="p" AbortOnError="yes"/>)");
-    EXPECT_FALSE(process->AbortOnError());
+    EXPECT_FALSE(process->OnErrorNotifyUser());
 }
 
 TEST_F(ProcessElement, UndefinedGroupsAreDroppedAndStayGoneOnSave) {
@@ -127,22 +121,19 @@ TEST_F(ProcessElement, CopyThroughTheFragmentGivesAnEqualFragment) {
     }
 }
 
-TEST_F(ProcessElement, RemovingTheLastDatasourceKeepsTheCachedMainOne) {
+TEST_F(ProcessElement, TheMainDatasourceIsCachedAndDisposeBreaksTheBackReferences) {
     auto process = First(R"(<Process Name="p" MainDatasourceName="D"><Datasources><Datasource Name="D"/>)"
                          R"(</Datasources></Process>)");
     auto main = process->MainDataSource();
     process->Datasources()->Remove(CollectionPosition{1});
-    EXPECT_EQ(process->MainDataSource(), main);
-}
-
-TEST_F(ProcessElement, DisposeBreaksTheBackReferences) {
-    auto process = First(R"(<Process Name="p" MainDatasourceName="D"><Datasources><Datasource Name="D"/>)"
-                         R"(</Datasources></Process>)");
+    EXPECT_EQ(process->MainDataSource(), main);  // removing the last one keeps it
+    process = First(R"(<Process Name="p"><Datasources><Datasource Name="D"/></Datasources></Process>)");
     auto datasource = process->Datasources()->Item(CollectionPosition{1});
     EXPECT_EQ(datasource->ParentProcess(), process);
     processes->Dispose();
     EXPECT_EQ(datasource->ParentProcess(), nullptr);
     EXPECT_EQ(process->Parent(), nullptr);
+    EXPECT_THROW(processes->Count(), VbError);
 }
 
 }  // namespace

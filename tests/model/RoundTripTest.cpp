@@ -9,7 +9,7 @@ namespace {
 
 class RoundTrip : public ModelFixture {};
 
-TEST_F(RoundTrip, EveryElementAndAttributeSurvivesLoadAndXml) {
+TEST_F(RoundTrip, EveryElementAndAttributeSurvivesLoadXmlAndSavingTwice) {
     const std::string original = ReadAll(SourceDir() / "tests/data/every_element.xml");
     ASSERT_FALSE(original.empty());
     auto processes = LoadText(original);
@@ -18,18 +18,10 @@ TEST_F(RoundTrip, EveryElementAndAttributeSurvivesLoadAndXml) {
     EXPECT_TRUE(prompts.boxes.empty());
     EXPECT_EQ(processes->XML(), original);
     EXPECT_EQ(processes->SourceXML(), original);
-}
-
-TEST_F(RoundTrip, SavingTwiceWritesTheSameBytes) {
-    const std::string original = ReadAll(SourceDir() / "tests/data/every_element.xml");
-    auto processes = LoadText(original);
     const auto out = folder / "out.xml";
     ASSERT_TRUE(processes->Save(out.string()));
-    const std::string first = ReadAll(out);
     ASSERT_TRUE(processes->Save(out.string()));
-    EXPECT_EQ(ReadAll(out), first);
-    EXPECT_EQ(first, original);
-    EXPECT_EQ(processes->XML(), first);  // what Save writes is exactly the text of XML
+    EXPECT_EQ(ReadAll(out), original);
 }
 
 TEST_F(RoundTrip, TheBundledExampleIsInTheFormTheWriterProduces) {

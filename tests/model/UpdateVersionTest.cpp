@@ -27,6 +27,10 @@ protected:
 TEST_F(VersionUpdate, FileWithoutMailGetsVersionOneAndIsRewritten) {
     auto processes = LoadText("<Processes><Process Name=\"p\"/></Processes>");
     EXPECT_EQ(processes->Version(), 1);
+    // A usual rewrite: no replacement to tell of, and the longer file needs no backup.
+    EXPECT_TRUE(processes->LastLoadRewrite().written);
+    EXPECT_TRUE(processes->LastLoadRewrite().notLoadedReason.empty());
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder.Path()), fs::directory_iterator()), 1);
     EXPECT_EQ(ReadAll(folder / "processes.xml"),
               R"(<?xml version="1.0" encoding="UTF-8"?><Processes Version="1"><Process Name="p" ProcessRecords="Current"/></Processes>)");
 }
@@ -81,19 +85,14 @@ TEST_F(VersionUpdate, SameProcessNameTwiceNumbersTheSecondTemplate) {
     EXPECT_EQ(mailMerge->Template(), (folder / "templates" / "Letter1.txt").string());
 }
 
-TEST_F(VersionUpdate, WithoutADatabaseTheConversionStopsAndVersionStaysZero) {
-    auto processes = LoadText(R"(<Processes><Process Name="p"><Activities><SendMail Body="text"/></Activities></Process></Processes>)");
-    EXPECT_EQ(processes->Version(), 0);
-    EXPECT_TRUE(prompts.errors.empty());  // without a message
-    EXPECT_NE(ReadAll(folder / "processes.xml").find(R"(Body="text")"), std::string::npos);  // saved all the same
-}
-
-TEST_F(VersionUpdate, MissingTemplatesFolderKeepsTheBody) {
-    auto processes = LoadText(OldFile(R"(<Process Name="p"><Activities><SendMail Body="text"/></Activities></Process>)"));
-    EXPECT_EQ(processes->Version(), 0);
-    auto sendMail = std::dynamic_pointer_cast<SendMail>(
-        processes->Item(CollectionPosition{1})->Activities()->Item(CollectionPosition{1}));
-    EXPECT_EQ(sendMail->Body(), "text");
+TEST_F(VersionUpdate, WithoutADatabaseOrTemplatesFolderTheBodyStaysAndVersionZero) {
+    const std::string process = R"(<Process Name="p"><Activities><SendMail Body="text"/></Activities></Process>)";
+    for (const std::string& file : {"<Processes>" + process + "</Processes>", OldFile(process)}) {
+        auto processes = LoadText(file);
+        EXPECT_EQ(processes->Version(), 0);
+        EXPECT_TRUE(prompts.errors.empty());  // without a message
+        EXPECT_NE(ReadAll(folder / "processes.xml").find(R"(Body="text")"), std::string::npos);  // saved all the same
+    }
 }
 
 }  // namespace

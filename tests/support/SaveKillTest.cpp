@@ -16,7 +16,6 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <iostream>
 #include <random>
 #include <vector>
 
@@ -47,13 +46,10 @@ struct Mode {
     bool linkBackup;  // the backup by a hard link, or by a copy
 };
 
-// What the kills left, for the figures of the run.
+// How often a kill left the old file and how often the new one.
 struct Tally {
-    int kills = 0;
     int old = 0;
     int fresh = 0;
-    int backups = 0;
-    int leftovers = 0;
 };
 
 class KilledSave : public ::testing::Test {
@@ -92,16 +88,13 @@ protected:
             return SaveFileSafely(file, next, ".1.bak", BackupRule::KeepWhenShorter).written;
         });
         ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "status " << status;
-        ++tally.kills;
         const std::string now = Bytes(file);
         ASSERT_TRUE(now == old || now == next) << "a mix of both, " << now.size() << " bytes";
         ++(now == old ? tally.old : tally.fresh);
         const std::vector<fs::path> backups = Matching(scratch.Path(), IsBackup);
         ASSERT_LE(backups.size(), 1u);
         for (const fs::path& backup : backups) EXPECT_EQ(Bytes(backup), old) << "an incomplete backup";
-        tally.backups += static_cast<int>(backups.size());
         const std::vector<fs::path> leftovers = Matching(scratch.Path(), IsTemporary);
-        tally.leftovers += static_cast<int>(leftovers.size());
         // Without hard links or unnamed files a kill leaves the file being
         // written; else only the moment between naming the new file and its
         // rename does, and then it is the whole new file.
@@ -133,9 +126,6 @@ TEST_F(KilledSave, AtEveryStepLeavesTheOldOrTheNewFileAndACompleteBackupOrNone) 
             for (std::size_t k = 1; k <= steps.size(); ++k) KillAt(mode, static_cast<int>(k), steps[k - 1], next, tally);
         }
     }
-    std::cout << "kill points " << tally.kills << ": old file " << tally.old << ", new file " << tally.fresh
-              << "; complete backups left " << tally.backups << "; temporary files left " << tally.leftovers
-              << " (all removed by the next save)\n";
     EXPECT_GT(tally.old, 0);
     EXPECT_GT(tally.fresh, 0);
 }
@@ -148,7 +138,6 @@ TEST_F(KilledSave, AtRandomMomentsOfSavesThatFollowEachOther) {
     WriteAll(file, a);
     std::mt19937 random(4242);
     std::uniform_int_distribution<int> delay(0, 15000);
-    Tally tally;
     for (int round = 0; round < 120; ++round) {
         const pid_t child = ::fork();
         if (child == 0) {
@@ -159,23 +148,16 @@ TEST_F(KilledSave, AtRandomMomentsOfSavesThatFollowEachOther) {
         ::usleep(static_cast<useconds_t>(delay(random)));
         ::kill(child, SIGKILL);
         ::waitpid(child, nullptr, 0);
-        ++tally.kills;
         const std::string now = Bytes(file);
         ASSERT_TRUE(now == a || now == b) << "a mix, " << now.size() << " bytes";
-        ++(now == a ? tally.old : tally.fresh);
         for (const fs::path& backup : Matching(scratch.Path(), IsBackup)) {
             const std::string kept = Bytes(backup);
             EXPECT_TRUE(kept == a || kept == b) << "an incomplete backup of " << kept.size() << " bytes";
-            ++tally.backups;
             fs::remove(backup);
         }
-        tally.leftovers += static_cast<int>(Matching(scratch.Path(), IsTemporary).size());
         ASSERT_TRUE(SaveFileSafely(file, a, ".x.bak", BackupRule::KeepWhenShorter).written);
         EXPECT_TRUE(Matching(scratch.Path(), IsTemporary).empty());
     }
-    std::cout << "random kills " << tally.kills << ": file a " << tally.old << ", file b " << tally.fresh
-              << "; complete backups " << tally.backups << "; temporary files left " << tally.leftovers
-              << " (all removed by the next save)\n";
 }
 
 }  // namespace
