@@ -30,17 +30,13 @@ TEST_F(Catalogue, ReadsElementChildrenByCodeWithAttributeNamesInAnyCase) {
     EXPECT_TRUE(prompts.boxes.empty());
 }
 
-TEST_F(Catalogue, MissingMessagesNodeFails) {
+TEST_F(Catalogue, AMissingMessagesNodeOrAParseErrorFailsWithABox) {
     EXPECT_FALSE(Load("<Root><Other/></Root>"));
-    ASSERT_EQ(prompts.boxes.size(), 1u);
+    EXPECT_FALSE(Load("<Root>\n<Messages>\n</Root>"));
+    ASSERT_EQ(prompts.boxes.size(), 2u);
     EXPECT_EQ(prompts.boxes[0].prompt, "The top level node is not 'Messages'.");
     EXPECT_EQ(prompts.boxes[0].style, msgbox::Critical);
-}
-
-TEST_F(Catalogue, ParseErrorGivesLineReasonAndSource) {
-    EXPECT_FALSE(Load("<Root>\n<Messages>\n</Root>"));
-    ASSERT_EQ(prompts.boxes.size(), 1u);
-    EXPECT_EQ(prompts.boxes[0].prompt.rfind("Error: Line 3\r\n", 0), 0u) << prompts.boxes[0].prompt;
+    EXPECT_EQ(prompts.boxes[1].prompt.rfind("Error: Line 3\r\n", 0), 0u) << prompts.boxes[1].prompt;
 }
 
 TEST_F(Catalogue, DuplicateCodeEndsTheReadingButKeepsWhatCameBefore) {

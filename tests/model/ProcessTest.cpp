@@ -28,12 +28,10 @@ TEST_F(ProcessElement, UnknownMainDatasourceNameFallsBackOnTheFirst) {
     ASSERT_NE(process, nullptr);
     EXPECT_EQ(process->MainDataSource()->name(), "A");
     EXPECT_EQ(process->MainDataSourceName(), "Nope");
-}
-
-TEST_F(ProcessElement, WithoutDatasourcesThereIsNoMainOne) {
-    auto process = First(R"(<Process Name="p" MainDatasourceName="A"/>)");
+    // Without datasources there is none; the log keeps the name it fell back on.
+    process = First(R"(<Process Name="p" MainDatasourceName="A"/>)");
     EXPECT_EQ(process->MainDataSource(), nullptr);
-    EXPECT_EQ(process->LogDatasourceName(), "A");  // falls back and keeps it
+    EXPECT_EQ(process->LogDatasourceName(), "A");
     process->SetMainDataSourceName("B");
     EXPECT_EQ(process->LogDatasourceName(), "A");
 }
@@ -77,11 +75,7 @@ TEST_F(ProcessElement, UndefinedGroupsAreDroppedAndStayGoneOnSave) {
     ASSERT_EQ(process->Groups()->Count(), 1);
     EXPECT_EQ(process->Groups()->Item(CollectionPosition{1})->name, "Office");
     EXPECT_EQ(processes->XML().find("Ghost"), std::string::npos);
-}
-
-TEST_F(ProcessElement, GroupsContainerStaysWhenNoGroupIsKnownAnyMore) {
-    processes = LoadText(Document(R"(<Process Name="p"><Groups><Group Name="Office"/></Groups></Process>)"
-                                  R"(<Groups><Group Name="Office"/></Groups>)"));
+    // With no group known any more the container stays, empty.
     processes->Groups()->Remove(CollectionPosition{1});
     EXPECT_NE(processes->XML().find(R"(<Process Name="p" ProcessRecords="Current"><Groups/></Process>)"),
               std::string::npos);

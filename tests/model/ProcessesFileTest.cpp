@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 class ProcessesFile : public ModelFixture {};
 
-TEST_F(ProcessesFile, MissingFileIsReportedAndNothingIsWritten) {
+TEST_F(ProcessesFile, MissingFileOrAnotherRootIsReportedAndNothingIsWritten) {
     auto processes = Processes::Create();
     const auto path = (folder / "nope.xml").string();
     processes->Load(path);
@@ -22,6 +22,12 @@ TEST_F(ProcessesFile, MissingFileIsReportedAndNothingIsWritten) {
     EXPECT_EQ(prompts.errors[0].description, "'" + path + "' is not a valid path.");
     EXPECT_FALSE(fs::exists(path));
     EXPECT_EQ(processes->Complete(), Processes::NotLoaded);
+    // Another root is error 91 and leaves Complete as it was.
+    processes = LoadText("<Other><Process Name=\"a\"/></Other>");
+    ASSERT_EQ(prompts.errors.size(), 2u);
+    EXPECT_EQ(prompts.errors[1].number, 91);
+    EXPECT_EQ(processes->Complete(), Processes::NotLoaded);
+    EXPECT_EQ(processes->Count(), 0);
 }
 
 TEST_F(ProcessesFile, UnparsableFileFailsWithLineAndWithoutAMessage) {
@@ -30,14 +36,6 @@ TEST_F(ProcessesFile, UnparsableFileFailsWithLineAndWithoutAMessage) {
     EXPECT_EQ(processes->ErrorString().rfind("Error: Line 4\r\n", 0), 0u) << processes->ErrorString();
     EXPECT_NE(processes->ErrorString().find("\r\n</Processes>"), std::string::npos);
     EXPECT_TRUE(prompts.errors.empty());  // no message of its own
-}
-
-TEST_F(ProcessesFile, WrongRootIsReportedAndLeavesCompleteAsItWas) {
-    auto processes = LoadText("<Other><Process Name=\"a\"/></Other>");
-    ASSERT_EQ(prompts.errors.size(), 1u);
-    EXPECT_EQ(prompts.errors[0].number, 91);
-    EXPECT_EQ(processes->Complete(), Processes::NotLoaded);
-    EXPECT_EQ(processes->Count(), 0);
 }
 
 TEST_F(ProcessesFile, EmptyNameWithoutDefaultFileCreatesItWithVersionOne) {

@@ -13,12 +13,6 @@ namespace {
 
 using ::testing::ElementsAre;
 
-std::vector<std::string> AttributeNames(const OptionItem& item) {
-    std::vector<std::string> names;
-    for (const auto& attribute : *item.Attributes) names.push_back(attribute->name);
-    return names;
-}
-
 std::string Detail(const Options& options, const char* group, const char* attribute, const char* detail) {
     const auto details = options.Find(group)->Properties->Find(attribute);
     if (!details) return "<none>";
@@ -31,8 +25,6 @@ TEST(DefaultOptions, GroupsInOrderWithKindsAndDefaults) {
     std::vector<std::string> groups;
     for (const auto& item : *options) groups.push_back(item->name);
     EXPECT_THAT(groups, ElementsAre("Email", "FileLocations", "Contact", "ConvertingPostscriptToPDF"));
-    EXPECT_THAT(AttributeNames(*options->Find("ConvertingPostscriptToPDF")),
-                ElementsAre("PostscriptPrinter", "GhostscriptExecutableFile", "GhostscriptCommandLine"));
     EXPECT_EQ(OptionValue(options.get(), "Email", "DefaultStyle"), "5");
     EXPECT_EQ(OptionValue(options.get(), "FileLocations", "TemplateFolder"), "7");
     EXPECT_EQ(Detail(*options, "Email", "DefaultStyle", "List"), "HTML;Plain text");

@@ -11,6 +11,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <optional>
 #include <vector>
 
 namespace flowloom::test {
@@ -141,20 +142,19 @@ TEST_F(FileServices, DeleteAsksFirstAndNoKeepsTheFile) {
 // Points the desktop's data folder at a temporary one for the test's scope.
 class ScopedDataHome {
 public:
-    ScopedDataHome() : had_(std::getenv("XDG_DATA_HOME") != nullptr) {
-        if (had_) saved_ = std::getenv("XDG_DATA_HOME");
-        setenv("XDG_DATA_HOME", data_.Path().c_str(), 1);
-    }
+    ScopedDataHome() { setenv("XDG_DATA_HOME", data_.Path().c_str(), 1); }
     ~ScopedDataHome() {
-        if (had_) setenv("XDG_DATA_HOME", saved_.c_str(), 1);
+        if (saved_) setenv("XDG_DATA_HOME", saved_->c_str(), 1);
         else unsetenv("XDG_DATA_HOME");
     }
     fs::path Trash() const { return data_ / "Trash"; }
 
 private:
+    const std::optional<std::string> saved_ = []() -> std::optional<std::string> {
+        const char* value = std::getenv("XDG_DATA_HOME");
+        return value ? std::optional<std::string>(value) : std::nullopt;
+    }();
     TempFolder data_;
-    bool had_;
-    std::string saved_;
 };
 
 TEST_F(FileServices, RecycleBinIsTheDesktopTrash) {

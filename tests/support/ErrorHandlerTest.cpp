@@ -77,10 +77,10 @@ TEST_F(Handler, ALogThatNoFolderTakesIsToldOnceOnStderr) {
 
 TEST_F(Handler, HandledByTheCallerLogsWithoutABoxAndTheLogIsAppended) {
     Show(53, "first", true);
-    Show(91, "second", true);
+    ReportError(VbError(91, "second"), "Processes", "Load", {.handledByCallingProcedure = true});
     EXPECT_TRUE(prompts.errors.empty());
     const std::string log = Log();
-    EXPECT_LT(log.find("Error 53: first"), log.find("Error 91: second"));
+    EXPECT_LT(log.find("Error 53: first"), log.find("Error 91: second\r\n in Processes.Load"));
     EXPECT_EQ(std::count(log.begin(), log.end(), '\n'), 4);  // two records of two lines each
 }
 
@@ -118,11 +118,6 @@ TEST_F(Handler, ClipboardErrorsAskForARetryAndPassTheAnswerBack) {
     EXPECT_EQ(Log(), "");
 }
 
-TEST_F(Handler, ReportErrorPassesModuleAndProcedure) {
-    ReportError(VbError(53, "File not found"), "Processes", "Load", {true, false});
-    EXPECT_NE(Log().find("in Processes.Load"), std::string::npos);
-}
-
 TEST_F(Handler, HelpButtonOnlyWithAHelpFileAndASmallContext) {
     const std::string help = (folder / "flowloom.chm").string();
     WriteAll(help, "help");
@@ -152,23 +147,9 @@ TEST_F(Handler, TextsWithCommentLocationAndWithoutNumbers) {
     EXPECT_EQ(prompts.errors[1].description, "Plain words");
 }
 
-TEST_F(Handler, ReportCarriesTheInformationSectionsThatAreSwitchedOn) {
+TEST_F(Handler, WithoutAMailProgramTheReportIsShownAsTextAndItsFileRemoved) {
     handler.ShowSysInfo = true;
     handler.ShowLocaleInfo = true;
-    prompts.answers = {msgbox::Yes};
-    prompts.openUrlSucceeds = false;
-    Show(30021, "boom");
-    ASSERT_EQ(prompts.texts.size(), 1u);
-    const std::string& report = prompts.texts[0];
-    EXPECT_EQ(report.find("[Current Status Info]"), std::string::npos);
-    EXPECT_NE(report.find("[System Information]\r\nOS: "), std::string::npos) << report;
-    EXPECT_NE(report.find("[Locale information]\r\nLanguage: "), std::string::npos);
-    EXPECT_NE(report.find("Please contact me about the following problem:\r\n\r\nError 30021: boom"),
-              std::string::npos);
-    EXPECT_NE(report.find("DESCRIBE WHAT YOU TRY TO DO: \r\n\r\nDESCRIBE WHAT HAPPENS: "), std::string::npos);
-}
-
-TEST_F(Handler, WithoutAMailProgramTheReportIsShownAsTextAndItsFileRemoved) {
     prompts.answers = {msgbox::Yes};
     prompts.openUrlSucceeds = false;
     // A temporary folder of the test's own, since other tests use the shared one meanwhile.
@@ -180,9 +161,17 @@ TEST_F(Handler, WithoutAMailProgramTheReportIsShownAsTextAndItsFileRemoved) {
     Show(30021, "boom");
     if (saved) ::setenv("TMPDIR", before.c_str(), 1);
     else ::unsetenv("TMPDIR");
-    ASSERT_EQ(prompts.texts.size(), 1u);
-    EXPECT_EQ(prompts.texts[0].rfind("Please send the following error to support@flowloom.example\r\n---\r\n\r\n", 0), 0u);
     EXPECT_TRUE(std::filesystem::is_empty(temporary));
+    ASSERT_EQ(prompts.texts.size(), 1u);
+    const std::string& report = prompts.texts[0];
+    EXPECT_EQ(report.rfind("Please send the following error to support@flowloom.example\r\n---\r\n\r\n", 0), 0u);
+    // The information sections that are switched on, and no others.
+    EXPECT_EQ(report.find("[Current Status Info]"), std::string::npos);
+    EXPECT_NE(report.find("[System Information]\r\nOS: "), std::string::npos) << report;
+    EXPECT_NE(report.find("[Locale information]\r\nLanguage: "), std::string::npos);
+    EXPECT_NE(report.find("Please contact me about the following problem:\r\n\r\nError 30021: boom"),
+              std::string::npos);
+    EXPECT_NE(report.find("DESCRIBE WHAT YOU TRY TO DO: \r\n\r\nDESCRIBE WHAT HAPPENS: "), std::string::npos);
 }
 
 }  // namespace

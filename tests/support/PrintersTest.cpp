@@ -36,13 +36,9 @@ TEST_F(Printers, SheetsOfferTheDefaultPrinterFirst) {
     EXPECT_FALSE(PrinterExists("PDF"));
 }
 
-TEST_F(Printers, NoPrintersIsAnEmptyListWithoutAMessage) {
-    EXPECT_THAT(GetPrinters(), IsEmpty());
+TEST_F(Printers, NoPrintersIsAnEmptyListAndOnlyAFailingSourceGivesAMessage) {
     EXPECT_THAT(GetPrinterChoices(), ElementsAre("(Default printer)"));
     EXPECT_THAT(prompts.boxes, IsEmpty());
-}
-
-TEST_F(Printers, AFailingSourceGivesTheMessageAndNothing) {
     source.names = {"Half read"};
     source.succeeds = false;
     EXPECT_THAT(GetPrinters(), IsEmpty());

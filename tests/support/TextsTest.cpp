@@ -1,12 +1,11 @@
-// Numbers read from and written to the file and macros keep the C notation
-// under a locale whose decimal separator is a comma.
+// Texts as the file holds them: numbers keep the C notation under a locale
+// whose decimal separator is a comma, names compare without regard to case.
 #include "testsupport/ScopedLocale.h"
 
+#include "support/TextCompare.h"
 #include "support/VbStrings.h"
 
 #include <gtest/gtest.h>
-
-#include <cmath>
 
 namespace flowloom::test {
 namespace {
@@ -47,6 +46,25 @@ TEST(Numbers, NumbersAndTruthAsTheFileReadsThem) {
     for (const char* untruth : {"0", "yes"}) EXPECT_FALSE(vb::ReadBool(untruth)) << untruth;
     EXPECT_EQ(vb::Split("", ";").size(), 1u);
     EXPECT_EQ(vb::SerialNowText().size(), std::string("46349.1234567890").size());
+}
+
+TEST(TextCompare, FoldsAsciiAndUnicode) {
+    EXPECT_TRUE(EqualsNoCase("MailMerge", "mailmerge"));
+    EXPECT_TRUE(EqualsNoCase("ÄRGER", "ärger"));
+    EXPECT_TRUE(EqualsNoCase("STRASSE", "straße"));
+    EXPECT_FALSE(EqualsNoCase("Arger", "Ärger"));
+    EXPECT_EQ(ToUpper("köln"), "KÖLN");
+    EXPECT_EQ(ToLower("KÖLN"), "köln");
+}
+
+TEST(TextCompare, FindReturnsPositionsInTheOriginalText) {
+    EXPECT_EQ(FindNoCase("a -XMLFILE b", "-xmlfile"), 2u);
+    EXPECT_EQ(FindNoCase("Köln -Process x", "-process"), 6u);
+    const auto [pos, length] = FindNoCaseSpan("Die Straße", "STRASSE");
+    EXPECT_EQ(pos, 4u);
+    EXPECT_EQ(length, std::string("Straße").size());
+    EXPECT_EQ(FindNoCase("Ärger", "rg", 3), std::string_view::npos);
+    EXPECT_EQ(FindNoCase("\xff\xfe-process", "-PROCESS"), 2u);  // invalid bytes are kept, not rejected
 }
 
 }  // namespace
