@@ -3,6 +3,8 @@
 #include "options/DefaultOptions.h"
 #include "options/OptionKinds.h"
 #include "model/OptionPlaceholders.h"
+#include "model/xml/CProcessesXMLDoc.h"
+#include "app/XmlDocument.h"
 
 #include "model/ModelFixture.h"
 
@@ -12,6 +14,18 @@ namespace flowloom::test {
 namespace {
 
 using ::testing::ElementsAre;
+
+// Options read generically and written back as a processes file holds them.
+std::string RoundTrip(const char* xml) {
+    pugi::xml_document in;
+    EXPECT_TRUE(in.load_string(xml));
+    Options options;
+    options.LoadElement(in.document_element());
+    pugi::xml_document out;
+    pugi::xml_node root = out.append_child("Options");
+    for (const auto& item : options) CProcessesXMLDoc().OptionFragment(*item, root);
+    return SerializeNode(out);
+}
 
 std::string Detail(const Options& options, const char* group, const char* attribute, const char* detail) {
     const auto details = options.Find(group)->Properties->Find(attribute);
@@ -32,6 +46,11 @@ TEST(DefaultOptions, GroupsInOrderWithKindsAndDefaults) {
     // A value element without details has none, not an empty one.
     EXPECT_EQ(options->Find("ConvertingPostscriptToPDF")->Properties->Find("PostscriptPrinter")->Count(), 0);
     EXPECT_EQ(Detail(*options, "Email", "DefaultEmailTemplateHTML", "Default"), "<none>");
+}
+
+TEST(Options, UnknownGroupsSurviveAndPrefixesGoOnlyWhenANameRemains) {
+    EXPECT_EQ(RoundTrip(R"(<Options><Custom A="1" B=""/><Empty/></Options>)"), R"(<Options><Custom A="1" B=""/><Empty/></Options>)");
+    EXPECT_EQ(RoundTrip(R"(<Options xmlns:x="u"><x:Mail A="1"/></Options>)"), R"(<Options><Mail A="1"/></Options>)");
 }
 
 TEST(OptionKinds, DigitsGiveEditorsAndLockingAndOthersNothing) {
