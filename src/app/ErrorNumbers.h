@@ -16,6 +16,7 @@ inline constexpr std::int32_t DocumentNotCreatedSendFax = 30050;
 inline constexpr std::int32_t ProcessesFileDoesNotExist = 30051;
 inline constexpr std::int32_t FolderDoesNotExist = 30052;
 inline constexpr std::int32_t DocumentNotCreatedConvert = 30074;
+inline constexpr std::int32_t DocumentAlreadyExists = 30075;
 
 // The plain description; "Unspecified Velorin error" for any other number.
 std::string Description(std::int32_t code);

@@ -31,6 +31,15 @@ const char* const kHelp =
     "                            name from FILE at run time\n"
     "  parse-command-line TEXT   parse TEXT as the designer's command line and print\n"
     "                            xmlfile, process, activeobject and fields, one per line\n"
+    "  show FILE PROCESS [ITEM]  print the property sheet of PROCESS or of one of its items:\n"
+    "                            ITEM is process, database:N, datasource:N or activity:N\n"
+    "                            (N counts from 1, as the strips show them); FILE is not\n"
+    "                            written, even where selecting the item changes the model\n"
+    "  set FILE PROCESS ITEM KEY VALUE\n"
+    "                            select the item as the designer would, commit VALUE into\n"
+    "                            the row whose key (or number) is KEY as an edit in the\n"
+    "                            grid, and save FILE (with a backup) when the model changed;\n"
+    "                            exit 1 when the edit was refused or the save failed\n"
     "  session [DESIGNER-ARGUMENTS]\n"
     "                            run the designer without a window: start it with the\n"
     "                            designer's own arguments (-xmlfile, -process, ...), then\n"
@@ -63,6 +72,9 @@ const char* const kHelp =
     "    focus list|database|datasource|activity|grid|info\n"
     "    menu NAME                 open the menu holding entry NAME and choose it\n"
     "    toolbar N, grid-row N     a toolbar button, a row of the property grid\n"
+    "    row N VALUE               click row N of the grid and commit VALUE (all after the\n"
+    "                              blank that ends N; \\n is a line break) as the user's\n"
+    "                              edit; a refused edit prints 'cancelled: row N'\n"
     "    close                     close the window\n"
     "    dump, xml                 print the window's state, the processes file\n"
     "Boxes, dialogs and errors of a session are lines of its transcript on standard\n"
@@ -178,6 +190,8 @@ int Run(const std::vector<std::string>& args, std::istream& in, std::ostream& ou
         {"verify", VerifyCommand},
         {"verify-all", VerifyAllCommand},
         {"codegen", CodegenCommand},
+        {"show", ShowCommand},
+        {"set", SetCommand},
         {"parse-command-line", [](Context& c) { return ParseCommandLineCommand(c.args, c.out, c.err); }},
         {"session",
          [&in](Context& c) { return RunSession({c.args.begin() + 1, c.args.end()}, in, c.out, c.err); }},

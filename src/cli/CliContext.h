@@ -46,5 +46,7 @@ bool ExpectArgs(Context& ctx, std::size_t count, const char* usage);
 int VerifyCommand(Context& ctx);
 int VerifyAllCommand(Context& ctx);
 int CodegenCommand(Context& ctx);
+int ShowCommand(Context& ctx);
+int SetCommand(Context& ctx);
 
 }  // namespace flowloom::cli

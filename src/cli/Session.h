@@ -54,6 +54,10 @@ public:
     // 1 after a failed start, otherwise 0.
     int ExitCode() const noexcept;
 
+    // A click on the 1-based row of the grid, then `value` committed as the
+    // user's edit; false when the edit was cancelled.
+    bool CommitRow(int index, const std::string& value);
+
     designer::frmDesigner& Designer() noexcept { return designer_; }
     designer::HeadlessGrid& Grid() noexcept { return grid_; }
 
@@ -61,6 +65,7 @@ private:
     using Words = std::vector<std::string>;
 
     void Act(const std::string& verb, const Words& words);
+    void EditRow(const std::string& arguments);
     void ChooseMenu(const std::string& name);
     void Dump();
     void Xml();
@@ -83,6 +88,8 @@ int RunSession(const std::vector<std::string>& designerArgs, std::istream& in, s
 
 // The state of the designer as the `dump` action prints it.
 void WriteDump(designer::frmDesigner& designer, designer::HeadlessGrid& grid, std::ostream& out);
+// The sheet on show: "sheet: KIND", then one "row N: ..." line per row.
+void WriteSheet(designer::frmDesigner& designer, designer::HeadlessGrid& grid, std::ostream& out);
 // The open context menu as one transcript line, without its line break.
 std::string PopupLine(const designer::MenuBar& menus);
 

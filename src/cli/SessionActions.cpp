@@ -43,6 +43,21 @@ Control ControlFrom(const std::string& word) {
     return Control::None;
 }
 
+// "\n" in a script value stands for a line break, as the multi-line editor
+// commits it: CR LF.
+std::string ExpandLineBreaks(const std::string& text) {
+    std::string expanded;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\\' && i + 1 < text.size() && text[i + 1] == 'n') {
+            expanded += "\r\n";
+            ++i;
+        } else {
+            expanded += text[i];
+        }
+    }
+    return expanded;
+}
+
 std::vector<std::string> SplitWords(std::string_view text) {
     std::vector<std::string> words;
     std::istringstream stream{std::string(text)};
@@ -76,7 +91,26 @@ void Session::Execute(const std::string& rawLine) {
 
     // Any action closes an open context menu; a menu entry is chosen from it first.
     if (verb != "menu" && designer_.PopupOpen()) designer_.ClosePopup();
+    if (verb == "row") return EditRow(rest);
     Act(verb, words);
+}
+
+void Session::EditRow(const std::string& arguments) {
+    // "N VALUE": the value is all after the blank that ends N, blanks kept.
+    const std::size_t blank = arguments.find(' ');
+    if (blank == std::string::npos) throw ScriptError("usage: row N VALUE");
+    const int index = Number(arguments.substr(0, blank));
+    if (index < 1 || index > grid_.Rows().Count()) throw ScriptError("there is no row " + std::to_string(index));
+    if (!CommitRow(index, ExpandLineBreaks(arguments.substr(blank + 1)))) out_ << "cancelled: row " << index << '\n';
+}
+
+bool Session::CommitRow(int index, const std::string& value) {
+    // The press gives the grid the focus and selects the row; the typed text
+    // is then committed as Enter commits it.
+    designer_.GridRowClick(index);
+    grid_.ClickRow(index, [this] { designer_.PropList_Click(); });
+    if (index > grid_.Rows().Count()) return false;  // the click rebuilt the sheet
+    return grid_.CommitEdit(grid_.Rows().Item(index), value);
 }
 
 void Session::Act(const std::string& verb, const Words& words) {

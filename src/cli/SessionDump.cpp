@@ -112,15 +112,19 @@ void WriteDump(designer::frmDesigner& designer, designer::HeadlessGrid& grid, st
     Line(out, "database", StripText(designer.Canvas(Strip::Database), "DatabaseTable"));
     Line(out, "datasource", StripText(designer.Canvas(Strip::Datasource), "DatasourceTable"));
     Line(out, "activity", ActivityText(designer.Canvas(Strip::Activity)));
-    Line(out, "sheet", designer.PropListTag());
-    grid::Properties& rows = grid.Rows();
-    for (std::int32_t i = 1; i <= rows.Count(); ++i)
-        Line(out, "row " + std::to_string(i), RowText(designer, rows.Item(i)));
+    WriteSheet(designer, grid, out);
     Line(out, "info", designer.txtPropInfo());
     Line(out, "changed", designer.HasUnsavedChanges() ? "yes" : "no");
     Line(out, "clipboard", ClipboardText(designer.mClipboardContent()));
     Line(out, "active-object",
          Join({designer.ActiveObjectType(), designer.ActiveObjectName(), designer.ActiveObjectFields()}, " | "));
+}
+
+void WriteSheet(designer::frmDesigner& designer, designer::HeadlessGrid& grid, std::ostream& out) {
+    Line(out, "sheet", designer.PropListTag());
+    grid::Properties& rows = grid.Rows();
+    for (std::int32_t i = 1; i <= rows.Count(); ++i)
+        Line(out, "row " + std::to_string(i), RowText(designer, rows.Item(i)));
 }
 
 std::string PopupLine(const designer::MenuBar& menus) {

@@ -60,6 +60,8 @@ public:
     virtual bool RowRect(const grid::Property& row, int& right, int& top) const = 0;
     // Ends an edit in progress and stores it (the focus leaves the grid).
     virtual void CommitPendingEdit() {}
+    // Makes the row the selected one, as setting SelectedItem does.
+    virtual void SelectRow(grid::Property& row) = 0;
 };
 
 }  // namespace flowloom::designer

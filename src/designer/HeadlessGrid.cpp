@@ -29,6 +29,24 @@ bool HeadlessGrid::ClickRow(int index, const std::function<void()>& click) {
     return true;
 }
 
+void HeadlessGrid::SelectRow(grid::Property& row) {
+    grid::Property* old = selected_;
+    if (old == &row) return;
+    selected_ = &row;
+    if (events_) events_->SelChange(old, &row);
+}
+
+bool HeadlessGrid::CommitEdit(grid::Property& row, std::string value) {
+    bool cancel = false;
+    editing_ = &row;
+    if (events_) events_->ValueChanged(row, value, cancel);
+    const bool alive = editing_ == &row;
+    editing_ = nullptr;
+    if (cancel) return false;
+    if (alive) row.SetValue(value);
+    return true;
+}
+
 std::string HeadlessGrid::ShownText(grid::Property& row) {
     std::string shown = row.value();
     if (row.UseCustomData() && events_) events_->QueryCustomData(row, shown);

@@ -26,21 +26,33 @@ public:
     // Rows stand one under the other, 16 pixels high, 240 pixels wide.
     bool RowRect(const grid::Property& row, int& right, int& top) const override;
 
+    void SelectRow(grid::Property& row) override;
+
     // A click on the 1-based row: the selection changes (SelChange), then
     // the grid's Click; false when there is no such row.
     bool ClickRow(int index, const std::function<void()>& click);
+    // The user commits `value` into the row, as the grid does on Enter:
+    // ValueChanged, then, unless cancelled, the row takes the text as the
+    // handler left it (if the row still exists). False when cancelled.
+    bool CommitEdit(grid::Property& row, std::string value);
     // The text the row shows, asking the events for custom data.
     std::string ShownText(grid::Property& row);
 
 private:
     bool IsSelected(const grid::Property& row) const override { return &row == selected_; }
-    void RowsCleared() override { selected_ = nullptr; }
+    void RowsCleared() override {
+        selected_ = nullptr;
+        editing_ = nullptr;
+    }
     void ClearSelectionIf(const grid::Property& row) override {
         if (&row == selected_) selected_ = nullptr;
+        if (&row == editing_) editing_ = nullptr;
     }
 
     grid::Properties rows_;
     grid::Property* selected_ = nullptr;
+    // The row of the edit being committed, until a handler removes it.
+    const grid::Property* editing_ = nullptr;
     grid::PropertyEvents* events_ = nullptr;
 };
 

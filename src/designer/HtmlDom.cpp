@@ -18,6 +18,12 @@ void HtmlCell::setBackgroundColor(const std::string& colour) {
     if (HtmlPage* page = PageOf(row_)) page->Touch();
 }
 
+void HtmlCell::setInnerHTML(std::string html) {
+    if (innerHTML == html) return;
+    innerHTML = std::move(html);
+    if (HtmlPage* page = PageOf(row_)) page->Touch();
+}
+
 int HtmlCell::cellIndex() const {
     if (!row_) return -1;
     for (int i = 0; i < row_->CellCount(); ++i)

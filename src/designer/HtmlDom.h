@@ -26,6 +26,8 @@ public:
     // style.backgroundColor; "" until a colour is set.
     const std::string& backgroundColor() const noexcept { return background_; }
     void setBackgroundColor(const std::string& colour);
+    // Sets innerHTML and has the page painted again.
+    void setInnerHTML(std::string html);
 
     // Position in its row; -1 once the row is gone.
     int cellIndex() const;

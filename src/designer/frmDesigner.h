@@ -276,6 +276,13 @@ private:
     void LoadDatabaseObjects(const std::string& databaseName) override;
     bool DatabaseObjectList(const std::string& type, std::string& list) const override;
     const sheets::FieldListMemo& LastFieldList() const override { return fieldListMemo_; }
+    sheets::SheetMemory& Memory() override { return sheetMemory_; }
+    int ShowMessage(const std::string& prompt, int style) override;
+    void SetSelectedCellCaption(sheets::CaptionStrip strip, const std::string& caption) override;
+    void RebuildSheet(int kind) override { OpenPropList(kind); }
+    void SelectRow(grid::Property& row) override { grid_.SelectRow(row); }
+    bool ProcessRenamed(std::string& sNewValue) override;
+    std::vector<std::string> GetTableFields(const std::string& tableName, const std::string& databaseName) override;
 
     PropertyGridHost& grid_;
     DesignerView& view_;
@@ -296,6 +303,7 @@ private:
     std::string activeObjectType_, activeObjectName_, activeObjectFields_;
     std::string mAccessObjectsLocation;
     sheets::FieldListMemo fieldListMemo_;
+    sheets::SheetMemory sheetMemory_;
 
     std::unique_ptr<StripState> strips_[3];
     ListBoxData list_;

@@ -6,6 +6,7 @@
 #include "grid/Properties.h"
 #include "grid/Property.h"
 #include "model/Database.h"
+#include "model/Process.h"
 #include "model/Processes.h"
 #include "sheets/PropertySheets.h"
 #include "support/FileHelpers.h"
@@ -87,13 +88,18 @@ void frmDesigner::NeedData(grid::Property& iProp, std::vector<std::string>& sLis
             [&] { sheets::NeedData(KindOf(propListTag_), iProp, *this, sListItems); });
 }
 
-void frmDesigner::ValueChanged(grid::Property&, std::string&, bool& Cancel) {
-    // Edits reach the model once the sheets handle them; until then a row
-    // keeps the value the model has rather than show one it does not.
-    Cancel = true;
+void frmDesigner::ValueChanged(grid::Property& iProp, std::string& sNewValue, bool& Cancel) {
+    // Any edit marks the process changed, a refused one as well.
+    mNewProcessChanged = true;
+    Guarded("frmDesigner", "PropList_ValueChanged",
+            [&] { Cancel = !sheets::ValueChanged(propListTag_, *this, grid_.Rows(), iProp, sNewValue); });
+    mNewProcessChanged = true;
 }
 
-void frmDesigner::KeyDownEdit(int&, int) {}
+void frmDesigner::KeyDownEdit(int& KeyCode, int) {
+    Guarded("frmDesigner", "PropList_KeyDownEdit",
+            [&] { sheets::KeyDownEdit(KindOf(propListTag_), KeyCode, *this, grid_.SelectedItem()); });
+}
 
 void frmDesigner::Browse(grid::Property&, std::string&) {
     MsgBox("Not ready ...", msgbox::Information);
@@ -105,6 +111,54 @@ void frmDesigner::cmdBrowse_Click() {
 }
 
 // --- what the sheets ask ------------------------------------------------------------
+
+int frmDesigner::ShowMessage(const std::string& prompt, int style) { return MsgBox(prompt, style); }
+
+void frmDesigner::SetSelectedCellCaption(sheets::CaptionStrip which, const std::string& caption) {
+    const Strip strip = which == sheets::CaptionStrip::Database     ? Strip::Database
+                        : which == sheets::CaptionStrip::Datasource ? Strip::Datasource
+                                                                    : Strip::Activity;
+    StripState& state = StripOf(strip);
+    const std::int32_t position = SelectedStripPosition(strip);
+    HtmlTable* table = state.page.getElementById(state.tableId);
+    if (position < 1 || !table) return;
+    // Names stand in the second row of a strip; an activity's caption under its picture.
+    const int row = strip == Strip::Activity ? (position - 1) * 3 + 1 : 1;
+    const int cell = strip == Strip::Activity ? 0 : position - 1;
+    table->rows(row).cells(cell)->setInnerHTML(caption);
+    std::int32_t live = 0;
+    for (StripItem& item : state.items)
+        if (item.code > 0 && ++live == position) item.name = caption;
+}
+
+bool frmDesigner::ProcessRenamed(std::string& sNewValue) {
+    const int index = list_.ListIndex();
+    if (index >= 0 && list_.List(index) == kNewProcessEntry) {
+        // A new process joins the file under its name, unless that is taken.
+        if (Processes_->Contains(sNewValue)) {
+            MsgBox("Process " + sNewValue + " already exists. Please give another name.", msgbox::Exclamation);
+            sNewValue.clear();
+            return false;
+        }
+        AddProcess(sNewValue, true);
+        return true;
+    }
+    // The list shows the new name and keeps its selection; the process on
+    // show stays, and so does the sheet being edited.
+    mIgnoreProcessClick = true;
+    list_.Clear();
+    list_.AddItem(kNewProcessEntry);
+    for (const auto& process : *Processes_) list_.AddItem(process->name());
+    list_.SetListIndex(index);
+    mIgnoreProcessClick = false;
+    return true;
+}
+
+std::vector<std::string> frmDesigner::GetTableFields(const std::string&, const std::string&) {
+    // A table's fields come from reading the Access file itself, as the
+    // object lists do; until that reader is here no table has known fields.
+    return {};
+}
 
 std::shared_ptr<Database> frmDesigner::SelectedDatabase() const {
     std::int32_t position = 0;

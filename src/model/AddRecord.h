@@ -21,6 +21,7 @@ public:
     std::shared_ptr<flowloom::Datasource> Datasource() const { return nullptr; }
     void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) { datasource_ = std::move(datasource); }
     std::shared_ptr<flowloom::FieldValues> FieldValues() const;  // created on first read
+    void SetFieldValues(std::shared_ptr<flowloom::FieldValues> values) { fieldValues_ = std::move(values); }
     bool HasFieldValues() const noexcept { return fieldValues_ != nullptr; }
     const std::string& Database() const noexcept { return database_; }
     void SetDatabase(std::string value) { database_ = std::move(value); }

@@ -51,6 +51,8 @@ public:
         set_ = true;
     }
     bool WasSet() const noexcept { return set_; }
+    // Back to "never set": the file leaves the mode out again.
+    void ClearSet() noexcept { set_ = false; }
 
 private:
     std::int32_t value_;

@@ -33,6 +33,7 @@ public:
     std::int32_t OverwriteExistingFile() const noexcept { return overwrite_.Value(); }
     void SetOverwriteExistingFile(std::int32_t value) { overwrite_.Set(value); }
     bool OverwriteSet() const noexcept { return overwrite_.WasSet(); }
+    void ForgetOverwriteSet() noexcept { overwrite_.ClearSet(); }
 
     const TaggedValue& Argument(SaveAsArg arg) const { return arguments_.Get(arg); }
     void SetArgument(SaveAsArg arg, TaggedValue value) { arguments_.Set(arg, std::move(value)); }

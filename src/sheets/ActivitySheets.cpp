@@ -1,21 +1,16 @@
-// The activity sheets (kinds 10 to 16). Each begins with the common
-// "Description" row; the rows of its own follow from its table.
+// What the activity sheets (kinds 10 to 16) share: the "Description" row
+// that begins each of them, and the document names they offer and check.
 #include "sheets/SheetTables.h"
 
+#include "app/Common.h"
+#include "app/ErrorNumbers.h"
 #include "grid/Properties.h"
-#include "model/Activity.h"
+#include "model/Documents.h"
+#include "model/MailMerge.h"
+#include "model/Process.h"
+#include "support/TextCompare.h"
 
 namespace flowloom::sheets {
-
-namespace {
-
-void NoRowsOfItsOwn(SheetHost&, grid::Properties&) {}
-
-void SetDescriptionOnly(SheetHost& host, grid::Properties& rows, const GuardedSteps& step) {
-    SetActivityDescription(host, rows, step);
-}
-
-}  // namespace
 
 void SetActivityDescription(SheetHost& host, grid::Properties& rows, const GuardedSteps& step) {
     const auto activity = host.SelectedActivity();
@@ -23,39 +18,35 @@ void SetActivityDescription(SheetHost& host, grid::Properties& rows, const Guard
     step([&] { SetIfNotEmpty(rows.Item(1), activity->Description()); });
 }
 
-const SheetTable& MailMergeSheetTable() {
-    static constexpr SheetTable table{"MailMerge", "SetMailMergePropertiesValues", NoRowsOfItsOwn, SetDescriptionOnly};
-    return table;
+void ChangeDescription(SheetEdit& edit, Activity& activity) {
+    activity.SetDescription(edit.text);
+    const std::string caption = edit.text.empty() ? SpacedName(activity.ActivityType()) : edit.text;
+    edit.host.SetSelectedCellCaption(CaptionStrip::Activity, caption);
 }
 
-const SheetTable& SaveAsSheetTable() {
-    static constexpr SheetTable table{"SaveAs", "SetSaveAsPropertiesValues", NoRowsOfItsOwn, SetDescriptionOnly};
-    return table;
+std::vector<std::string> GetDocumentNames(const SheetHost& host) {
+    std::vector<std::string> names{std::string()};  // choosing none stays possible
+    const auto process = host.CurrentProcess();
+    if (!process || !process->Documents()) return names;
+    // A mail merge is not offered its own output as a document before or after it.
+    std::string ownOutput;
+    bool hasOwnOutput = false;
+    if (const auto mailMerge = SelectedActivityOf<MailMerge>(host)) {
+        ownOutput = mailMerge->OutputDocumentName();
+        hasOwnOutput = true;
+    }
+    for (const auto& document : *process->Documents()) {
+        if (document->name.empty() || (hasOwnOutput && EqualsNoCase(document->name, ownOutput))) continue;
+        names.push_back(document->name);
+    }
+    return names;
 }
 
-const SheetTable& PrintOutSheetTable() {
-    static constexpr SheetTable table{"PrintOut", "SetPrintOutPropertiesValues", NoRowsOfItsOwn, SetDescriptionOnly};
-    return table;
-}
-
-const SheetTable& ConvertSheetTable() {
-    static constexpr SheetTable table{"Convert", "SetConvertPropertiesValues", NoRowsOfItsOwn, SetDescriptionOnly};
-    return table;
-}
-
-const SheetTable& SendMailSheetTable() {
-    static constexpr SheetTable table{"SendMail", "SetSendMailPropertiesValues", NoRowsOfItsOwn, SetDescriptionOnly};
-    return table;
-}
-
-const SheetTable& SendFaxSheetTable() {
-    static constexpr SheetTable table{"SendFax", "SetSendFaxPropertiesValues", NoRowsOfItsOwn, SetDescriptionOnly};
-    return table;
-}
-
-const SheetTable& AddRecordSheetTable() {
-    static constexpr SheetTable table{"AddRecord", "SetAddRecordPropertiesValues", NoRowsOfItsOwn, SetDescriptionOnly};
-    return table;
+void CheckNewOutputDocument(const SheetHost& host, const std::string& name) {
+    const auto process = host.CurrentProcess();
+    if (process && process->Documents() && process->Documents()->Contains(name))
+        errnum::Raise(errnum::DocumentAlreadyExists, {},
+                      errnum::Description(errnum::DocumentAlreadyExists, {name}));
 }
 
 }  // namespace flowloom::sheets

@@ -34,11 +34,26 @@ void SetDatabasePropertiesValues(SheetHost& host, grid::Properties& rows, const 
     step([&] { SetIfNotEmpty(rows.Item(Location), database->Location); });
 }
 
+bool DatabaseChange(SheetEdit& edit) {
+    const auto database = edit.host.SelectedDatabase();
+    if (!database) return true;
+    switch (edit.index) {
+    case Name:
+        database->name = edit.text;
+        edit.host.SetSelectedCellCaption(CaptionStrip::Database, edit.text);
+        break;
+    case Type: database->Type_ = edit.text; break;
+    case Location: database->Location = edit.text; break;
+    default: break;
+    }
+    return true;
+}
+
 }  // namespace
 
 const SheetTable& DatabaseSheetTable() {
-    static constexpr SheetTable table{"Database", "SetDatabasePropertiesValues", AddDatabaseRows,
-                                      SetDatabasePropertiesValues};
+    static constexpr SheetTable table{"Database",       "SetDatabasePropertiesValues", AddDatabaseRows,
+                                      SetDatabasePropertiesValues, "DatabaseChange", DatabaseChange};
     return table;
 }
 

@@ -4,6 +4,7 @@
 
 #include "grid/Properties.h"
 #include "model/Datasource.h"
+#include "support/TextCompare.h"
 #include "support/VbStrings.h"
 
 namespace flowloom::sheets {
@@ -44,11 +45,41 @@ void SetDatasourcePropertiesValues(SheetHost& host, grid::Properties& rows, cons
     step([&] { SetIfNotEmpty(rows.Item(SubformFullName), datasource->SubFormFullName); });
 }
 
+bool DatasourceChange(SheetEdit& edit) {
+    const auto datasource = edit.host.SelectedDatasource();
+    if (!datasource) return true;
+    const std::string& text = edit.text;
+    switch (edit.index) {
+    case Name:
+        if (!EqualsNoCase(text, datasource->name())) {
+            datasource->SetName(text);
+            edit.host.SetSelectedCellCaption(CaptionStrip::Datasource, text);
+        }
+        break;
+    case Database:
+        datasource->Database = text;
+        edit.host.LoadDatabaseObjects(text);
+        break;
+    case Type:
+        // Another type names another kind of object: the name on show goes,
+        // while the model keeps it until the name is edited.
+        if (text != datasource->Type_) {
+            datasource->Type_ = text;
+            edit.rows.Item(ObjectName).SetValue({});
+        }
+        break;
+    case ObjectName: datasource->ObjectName = text; break;
+    case SubformFullName: datasource->SubFormFullName = text; break;
+    default: break;
+    }
+    return true;
+}
+
 }  // namespace
 
 const SheetTable& DatasourceSheetTable() {
-    static constexpr SheetTable table{"Datasource", "SetDatasourcePropertiesValues", AddDatasourceRows,
-                                      SetDatasourcePropertiesValues};
+    static constexpr SheetTable table{"Datasource",       "SetDatasourcePropertiesValues", AddDatasourceRows,
+                                      SetDatasourcePropertiesValues, "DatasourceChange", DatasourceChange};
     return table;
 }
 

@@ -43,4 +43,15 @@ std::optional<std::vector<std::string>> KeptFieldList(const FieldListMemo& memo,
 
 std::string JoinLines(const std::vector<std::string>& lines) { return vb::Join(lines, "\r\n"); }
 
+void FillFieldValues(flowloom::FieldValues& values, std::string_view text) {
+    for (const std::string& line : vb::Split(text, "\r\n")) {
+        if (line.find('=') == std::string::npos) continue;
+        const std::vector<std::string> parts = vb::Split(line, "=");
+        auto value = std::make_shared<FieldValue>(FieldValue{vb::Trim(parts[0]), vb::Trim(parts[1])});
+        if (value->value.empty()) continue;
+        const std::string key = value->field;
+        values.Add(std::move(value), key);
+    }
+}
+
 }  // namespace flowloom::sheets

@@ -6,6 +6,7 @@
 #include "grid/Properties.h"
 #include "model/Groups.h"
 #include "model/Process.h"
+#include "support/Prompts.h"
 
 namespace flowloom::sheets {
 
@@ -65,11 +66,43 @@ void SetProcessPropertiesValues(SheetHost& host, grid::Properties& rows, const G
     step([&] { SetIfNotEmpty(rows.Item(LogDatasourceName), process->LogDatasourceName()); });
 }
 
+// Only an exact difference renames. The model takes the name before the
+// window checks it, so a new process refused for a taken name still carries
+// it; members of the file are not checked against each other at all.
+bool Rename(SheetEdit& edit, Process& process) {
+    if (edit.sNewValue == process.name()) return true;
+    if (edit.sNewValue.empty()) {
+        edit.host.ShowMessage("Incorrect name of Process.", msgbox::Exclamation);
+        edit.sNewValue = process.name();
+        return false;
+    }
+    process.SetName(edit.sNewValue);
+    return edit.host.ProcessRenamed(edit.sNewValue);
+}
+
+// The process's own text is taken as typed, blanks and all.
+bool ProcessChange(SheetEdit& edit) {
+    const auto process = edit.host.CurrentProcess();
+    if (!process) return true;
+    const std::string& text = edit.sNewValue;
+    switch (edit.index) {
+    case Name: return Rename(edit, *process);
+    case ProcessRecords: process->SetProcessRecords(text == ListItemAt(edit.row, 0) ? 0 : 1); break;
+    case MainDatasourceName: process->SetMainDataSourceName(text); break;
+    case AbortOnError: process->SetAbortOnError(TextAsBool(text)); break;
+    case OnErrorNotifyUser: process->SetOnErrorNotifyUser(TextAsBool(text)); break;
+    case FieldValues: ParseFieldValues(*process, text); break;
+    case LogDatasourceName: process->SetLogDatasourceName(text); break;
+    default: break;  // the groups change through their dialog only
+    }
+    return true;
+}
+
 }  // namespace
 
 const SheetTable& ProcessSheetTable() {
-    static constexpr SheetTable table{"Process", "SetProcessPropertiesValues", AddProcessRows,
-                                      SetProcessPropertiesValues};
+    static constexpr SheetTable table{"Process",       "SetProcessPropertiesValues", AddProcessRows,
+                                      SetProcessPropertiesValues, "ProcessChange", ProcessChange};
     return table;
 }
 

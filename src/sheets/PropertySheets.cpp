@@ -4,6 +4,8 @@
 
 #include "grid/Properties.h"
 #include "model/AddRecord.h"
+#include "model/PrintOut.h"
+#include "model/SaveAs.h"
 #include "model/Databases.h"
 #include "model/Datasources.h"
 #include "model/Groups.h"
@@ -14,12 +16,15 @@
 #include "support/VbStrings.h"
 
 #include <array>
+#include <cstdlib>
 
 namespace flowloom::sheets {
 
 namespace {
 
 constexpr int kFirstActivitySheet = 10;
+constexpr int kSaveAsSheet = 11;
+constexpr int kPrintOutSheet = 12;
 constexpr int kAddRecordSheet = 16;
 constexpr std::int32_t kListOnDemandRow = 4;  // ObjectName and TableName
 
@@ -41,7 +46,32 @@ std::string ObjectListType(const std::string& datasourceType) {
     return {};
 }
 
+// The rows of SaveAs and PrintOut depend on the application that produces
+// their input document. A SaveAs without an input document keeps the code
+// of the sheet shown before.
+void RememberApplication(int kind, SheetHost& host) {
+    const auto activity = host.SelectedActivity();
+    if (kind == kSaveAsSheet) {
+        if (const auto* saveAs = ActivityAs<SaveAs>(activity.get()); saveAs && !saveAs->InputDocumentName().empty())
+            host.Memory().saveAsApplication = saveAs->InputDocumentKind();
+    } else if (kind == kPrintOutSheet) {
+        const auto* printOut = ActivityAs<PrintOut>(activity.get());
+        host.Memory().printOutApplication = printOut ? printOut->InputDocumentKind() : 0;
+    }
+}
+
 }  // namespace
+
+bool ValueChanged(const std::string& sheetTag, SheetHost& host, grid::Properties& rows, grid::Property& row,
+                  std::string& sNewValue) {
+    const int kind = std::atoi(sheetTag.c_str());
+    const SheetTable* table = FindSheetTable(kind);
+    if (!table || sheetTag != std::to_string(kind)) return true;
+    return GuardedOr("frmDesigner", table->changeProcedure, false, [&] {
+        SheetEdit edit{host, rows, row, row.Index(), sNewValue, vb::Trim(sNewValue)};
+        return table->change(edit);
+    });
+}
 
 bool IsActivitySheet(int kind) { return kind >= kFirstActivitySheet && kind <= kAddRecordSheet; }
 
@@ -69,6 +99,7 @@ void BuildSheet(int kind, SheetHost& host, grid::Properties& rows) {
     rows.Clear();
     const SheetTable* table = FindSheetTable(kind);
     if (!table) return;
+    RememberApplication(kind, host);
     if (IsActivitySheet(kind)) AddRow(rows, {"Description", grid::ExPropText});
     table->addRows(host, rows);
     table->setValues(host, rows, GuardedSteps(table->setProcedure));

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace flowloom::grid {
@@ -29,6 +30,24 @@ std::string SheetKindName(int kind);
 // A kind without a sheet leaves the rows empty. Failures of the value
 // loading are reported and the rest of the sheet is still filled.
 void BuildSheet(int kind, SheetHost& host, grid::Properties& rows);
+
+// An edit committed in the grid: the change handler of the sheet on show
+// (`sheetTag`, the kind as text) takes the text to the model. False when
+// the edit is refused; `sNewValue` may come back changed. A failure is
+// reported under the handler's name and refuses the edit. A tag that names
+// no sheet accepts the edit and changes nothing.
+bool ValueChanged(const std::string& sheetTag, SheetHost& host, grid::Properties& rows, grid::Property& row,
+                  std::string& sNewValue);
+
+// A key pressed in the grid's edit box: Delete on the "Body" row of a
+// SendMail sheet empties the body at once.
+void KeyDownEdit(int kind, int keyCode, SheetHost& host, grid::Property* selected);
+
+// What the "Body" row shows of a mail body: "(HTML)", "(Plain Text)", or a
+// body that is one field reference as it stands.
+std::string BodyShownText(const std::string& body);
+// Whether the text is one field reference, "[Field:...]", on one line.
+bool IsFieldReference(std::string_view text);
 
 // The catalogue key of a row's help text: kind name, a point, the row's tag.
 std::string HelpKey(int kind, const grid::Property& row);

@@ -33,6 +33,27 @@ void SetIfNotEmpty(grid::Property& row, const std::string& text) {
     if (!text.empty()) row.SetValue(text);
 }
 
+std::optional<std::int32_t> ListPosition(const grid::Property& row, std::string_view text) {
+    const auto& items = row.ListItems();
+    if (!items) return std::nullopt;
+    for (std::size_t i = 0; i < items->size(); ++i)
+        if ((*items)[i] == text) return static_cast<std::int32_t>(i);
+    return std::nullopt;
+}
+
+bool TextAsBool(std::string_view text) {
+    const auto truth = vb::ToBool(text);
+    if (!truth) RaiseStandardError(vberr::TypeMismatch);
+    return *truth;
+}
+
+std::int32_t NumberInFront(std::string_view text) { return vb::CLng(vb::Val(text)); }
+
+void RemoveRowsQuietly(grid::Properties& rows, std::initializer_list<std::int32_t> indices) {
+    for (const std::int32_t index : indices)
+        if (index >= 1 && index <= rows.Count()) rows.Remove(index);
+}
+
 std::string BoolText(bool value) { return value ? "True" : "False"; }
 
 std::string RowTag(const grid::Property& row) { return row.Tag().IsText() ? row.Tag().Text() : std::string(); }

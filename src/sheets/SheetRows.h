@@ -2,6 +2,9 @@
 
 #include "support/ReportError.h"
 
+#include <cstdint>
+#include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -36,6 +39,19 @@ const std::string& ListItemAt(const grid::Property& row, std::size_t position);
 void SetIfNotEmpty(grid::Property& row, const std::string& text);
 // A truth value as the host's string conversion gives it.
 std::string BoolText(bool value);
+
+// The 0-based position of the text among the row's list items, compared as
+// they stand; nullopt for any other text.
+std::optional<std::int32_t> ListPosition(const grid::Property& row, std::string_view text);
+// A text as a truth value, as the host converts it ("True", "false", "-1",
+// "0"); error 13 for a text that is none.
+bool TextAsBool(std::string_view text);
+// The number a list label begins with: "3 - Email" gives 3, a text without
+// one 0.
+std::int32_t NumberInFront(std::string_view text);
+// Removes the rows at these positions, in the order given; a position the
+// sheet does not have (any more) is passed over.
+void RemoveRowsQuietly(grid::Properties& rows, std::initializer_list<std::int32_t> indices);
 
 // The row's tag as text; "" when it holds no text.
 std::string RowTag(const grid::Property& row);

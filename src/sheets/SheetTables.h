@@ -3,7 +3,12 @@
 #include "sheets/SheetHost.h"
 #include "sheets/SheetRows.h"
 
+#include "model/Activity.h"
+
+#include <memory>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace flowloom::grid {
 class Properties;
@@ -11,14 +16,28 @@ class Properties;
 
 namespace flowloom::sheets {
 
+// One committed edit, as a change handler sees it.
+struct SheetEdit {
+    SheetHost& host;
+    grid::Properties& rows;
+    // The row edited; gone once the handler has rebuilt the sheet.
+    grid::Property& row;
+    std::int32_t index;      // the row's Index, which the handlers go by
+    std::string& sNewValue;  // the grid's text; a handler may change it
+    std::string text;        // the text without blanks on either side
+};
+
 // One kind of sheet: its name for help keys, the rows it adds after the
-// common ones, and the procedure that loads the model into them (with the
-// name its failures are reported under).
+// common ones, the procedure that loads the model into them and the one
+// that takes an edit back (with the names their failures are reported
+// under). A change handler gives false to refuse the edit.
 struct SheetTable {
     std::string_view kindName;
     std::string_view setProcedure;
     void (*addRows)(SheetHost& host, grid::Properties& rows);
     void (*setValues)(SheetHost& host, grid::Properties& rows, const GuardedSteps& step);
+    std::string_view changeProcedure;
+    bool (*change)(SheetEdit& edit);
 };
 
 // The table of a kind, or nullptr for a number without a sheet.
@@ -42,5 +61,30 @@ const SheetTable& AddRecordSheetTable();
 
 // Row 1 of an activity sheet from the selected activity's Description.
 void SetActivityDescription(SheetHost& host, grid::Properties& rows, const GuardedSteps& step);
+
+// The selected activity when it is of the class T; nullptr otherwise (the
+// edit then changes nothing).
+template <typename T>
+std::shared_ptr<T> SelectedActivityOf(const SheetHost& host) {
+    auto activity = host.SelectedActivity();
+    if (!activity || activity->Kind() != T::kKind) return nullptr;
+    return std::shared_ptr<T>(activity, static_cast<T*>(activity.get()));
+}
+
+// Row 1 of every activity sheet: the description, which is also the
+// caption of the activity's cell (its spaced type name when empty).
+void ChangeDescription(SheetEdit& edit, Activity& activity);
+
+// The offers of document names for input rows and the rows of the
+// documents before and after a mail merge.
+std::vector<std::string> GetDocumentNames(const SheetHost& host);
+
+// The choices of the target folder and file of SaveAs and Convert; both
+// rows take any other text as well.
+void SetTargetLists(grid::Property& folder, grid::Property& file);
+
+// Error 30075 ("Document '...' already exists.") when the process has a
+// document of that name, so that an activity cannot take it as its output.
+void CheckNewOutputDocument(const SheetHost& host, const std::string& name);
 
 }  // namespace flowloom::sheets

@@ -4,7 +4,6 @@
 #include "model/FieldValue.h"
 #include "model/Group.h"
 #include "model/Groups.h"
-#include "model/SendMail.h"
 #include "support/VbStrings.h"
 
 namespace flowloom::test {
@@ -107,11 +106,7 @@ TEST_F(SheetFixture, AFailingStepIsReportedAndTheRestIsStillFilled) {
     EXPECT_EQ(Value(3), "Form");
 }
 
-TEST_F(SheetFixture, ActivitySheetsBeginWithTheDescription) {
-    host.activity = std::make_shared<SendMail>();
-    host.activity->SetDescription("Mail the letters");
-    EXPECT_EQ(Sheet(Build(14)), (Lines{"Description|0|Description||Mail the letters|?"}));
-    EXPECT_EQ(sheets::HelpKey(14, rows.Item(1)), "SendMail.Description");
+TEST_F(SheetFixture, KindsWithoutASheetHaveNoRows) {
     EXPECT_EQ(Build(2).Count(), 0);
     EXPECT_EQ(Build(17).Count(), 0);
     EXPECT_EQ(sheets::SheetKindName(2), "");

@@ -5,6 +5,7 @@
 #include "model/Databases.h"
 #include "model/Datasource.h"
 #include "model/Datasources.h"
+#include "model/Activities.h"
 #include "model/Process.h"
 #include "model/Processes.h"
 #include "sheets/PropertySheets.h"
@@ -14,6 +15,7 @@
 #include "testsupport/TempFolder.h"
 
 #include <gtest/gtest.h>
+#include <pugixml.hpp>
 
 #include <map>
 #include <memory>
@@ -45,6 +47,28 @@ public:
         return true;
     }
     const sheets::FieldListMemo& LastFieldList() const override { return memo; }
+    sheets::SheetMemory& Memory() override { return memory; }
+    int ShowMessage(const std::string& prompt, int) override {
+        messages.push_back(prompt);
+        return 1;
+    }
+    void SetSelectedCellCaption(sheets::CaptionStrip, const std::string& caption) override {
+        captions.push_back(caption);
+    }
+    // Building again goes to the rows the test has handed over.
+    void RebuildSheet(int kind) override {
+        rebuilt.push_back(kind);
+        if (rows) sheets::BuildSheet(kind, *this, *rows);
+    }
+    void SelectRow(grid::Property& row) override { selectedRow = rows ? rows->IndexOf(&row) : 0; }
+    bool ProcessRenamed(std::string& sNewValue) override {
+        renamed.push_back(sNewValue);
+        return renameAccepted;
+    }
+    std::vector<std::string> GetTableFields(const std::string& table, const std::string&) override {
+        auto it = tableFields.find(table);
+        return it == tableFields.end() ? std::vector<std::string>{} : it->second;
+    }
 
     std::shared_ptr<Processes> processes = Processes::Create();
     std::shared_ptr<Process> process = Process::Create();
@@ -56,12 +80,24 @@ public:
     const ObjectLists* inspected = nullptr;
     std::vector<std::string> loads;
     bool failLoading = false;
+    sheets::SheetMemory memory;
+    std::vector<std::string> messages;
+    std::vector<std::string> captions;
+    std::vector<int> rebuilt;
+    std::vector<std::string> renamed;
+    bool renameAccepted = true;
+    std::map<std::string, std::vector<std::string>> tableFields;
+    grid::Properties* rows = nullptr;
+    std::int32_t selectedRow = 0;
 };
 
 // Reports go to a temporary program folder and to recorded boxes.
 class SheetFixture : public ::testing::Test {
 protected:
-    SheetFixture() { SetProgramFolder(folder.Path()); }
+    SheetFixture() {
+        SetProgramFolder(folder.Path());
+        host.rows = &rows;
+    }
     ~SheetFixture() override { SetProgramFolder({}); }
 
     std::shared_ptr<Datasource> AddDatasource(const std::string& name) {
@@ -76,11 +112,29 @@ protected:
         host.processes->Databases()->Add(database);
         return database;
     }
+    // The process of the test as the file would give it; the activity at
+    // `selected` (1-based) is the selected one.
+    void UseProcess(const std::string& xml, std::int32_t selected = 0) {
+        pugi::xml_document document;
+        ASSERT_TRUE(document.load_string(xml.c_str()));
+        host.process = Process::Create();
+        host.process->LoadElement(document.first_child(), host.processes);
+        if (selected > 0) host.activity = host.process->Activities()->Item(selected);
+    }
     grid::Properties& Build(int kind) {
         sheets::BuildSheet(kind, host, rows);
         return rows;
     }
     const std::string& Value(std::int32_t index) const { return rows.Item(index).value(); }
+    // Commits `text` into a row of the sheet of `kind` on show, as the grid
+    // does: false when refused; an accepted row takes the text the handler left.
+    bool Edit(int kind, std::int32_t index, std::string text) {
+        grid::Property& row = rows.Item(index);
+        const std::size_t rebuilds = host.rebuilt.size();
+        if (!sheets::ValueChanged(std::to_string(kind), host, rows, row, text)) return false;
+        if (host.rebuilt.size() == rebuilds) row.SetValue(text);  // a rebuild took the row away
+        return true;
+    }
 
     TempFolder folder;
     ScriptedPrompts prompts;

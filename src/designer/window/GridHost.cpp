@@ -35,6 +35,8 @@ void GridHost::CommitPendingEdit() {
     if (grid_.SelectedItem()) grid_.CommitPending(true);
 }
 
+void GridHost::SelectRow(grid::Property& row) { grid_.SetSelectedItem(&row); }
+
 void GridHost::KeyDownEdit(int& KeyCode, int Shift) {
     if (events_) events_->KeyDownEdit(KeyCode, Shift);
 }

@@ -28,6 +28,7 @@ public:
     void SetHoldDraw(bool hold) override;
     bool RowRect(const grid::Property& row, int& right, int& top) const override;
     void CommitPendingEdit() override;
+    void SelectRow(grid::Property& row) override;
 
     // IPropEventSink.
     void KeyDownEdit(int& KeyCode, int Shift) override;
