@@ -5,8 +5,12 @@
 #include "designer/window/ProcessListView.h"
 #include "grid/widget/PropertyList.h"
 #include "grid/widget/RowListView.h"
+#include "model/Activities.h"
+#include "model/Activity.h"
+#include "model/Process.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QToolButton>
@@ -127,6 +131,38 @@ TEST_F(WindowTest, TheBrowseButtonStandsAtTheRightEndOfTheRowsThatHaveIt) {
     ClickGridRow(grid, "Name");
     Settle();
     EXPECT_FALSE(browse->isVisible());
+}
+
+TEST_F(WindowTest, AnEditInTheGridReachesTheModelAndTheCanvas) {
+    grid::PropertyList& grid = Window().Grid();
+    ClickCell(Strip::Activity, 3, 0);  // "Keep a copy of each reminder"
+    ASSERT_GE(ClickGridRow(grid, "Description"), 0);
+    Settle();
+    auto* edit = grid.findChild<QLineEdit*>();
+    ASSERT_NE(edit, nullptr);
+    ASSERT_TRUE(edit->isVisible());
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClicks(edit, "Archive copy");
+    QTest::keyClick(edit, Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(Core().CurrentProcess()->Activities()->Item(2)->Description(), "Archive copy");
+    EXPECT_EQ(Core().Canvas(Strip::Activity).Table()->rows(4).cells(0)->innerHTML, "Archive copy");
+    EXPECT_TRUE(Core().HasUnsavedChanges());
+
+    // A refused edit shows its box and the row keeps the value it had.
+    ClickCell(Strip::Activity, 0, 0);
+    ASSERT_GE(ClickGridRow(grid, "Output Document Name"), 0);
+    Settle();
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClicks(edit, "Reminder mail");
+    QTest::keyClick(edit, Qt::Key_Return);
+    Settle();
+    ASSERT_FALSE(prompts.errors.empty());
+    EXPECT_EQ(prompts.errors.back().number, 30075);
+    EXPECT_EQ(grid.SelectedItem()->value(), "Reminder");
+    EXPECT_EQ(Core().CurrentProcess()->Activities()->Item(1)->ProducedDocumentName(), "Reminder");
 }
 
 TEST_F(WindowTest, ScreenshotOfTheExample) {
