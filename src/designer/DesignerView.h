@@ -60,7 +60,8 @@ public:
     virtual bool RowRect(const grid::Property& row, int& right, int& top) const = 0;
     // Ends an edit in progress and stores it (the focus leaves the grid).
     virtual void CommitPendingEdit() {}
-    // Makes the row the selected one, as setting SelectedItem does.
+    // Makes the row the selected one, as setting SelectedItem does (the
+    // grid raises no event for it).
     virtual void SelectRow(grid::Property& row) = 0;
 };
 

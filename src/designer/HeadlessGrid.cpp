@@ -29,12 +29,7 @@ bool HeadlessGrid::ClickRow(int index, const std::function<void()>& click) {
     return true;
 }
 
-void HeadlessGrid::SelectRow(grid::Property& row) {
-    grid::Property* old = selected_;
-    if (old == &row) return;
-    selected_ = &row;
-    if (events_) events_->SelChange(old, &row);
-}
+void HeadlessGrid::SelectRow(grid::Property& row) { selected_ = &row; }
 
 bool HeadlessGrid::CommitEdit(grid::Property& row, std::string value) {
     bool cancel = false;

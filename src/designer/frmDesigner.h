@@ -280,7 +280,7 @@ private:
     int ShowMessage(const std::string& prompt, int style) override;
     void SetSelectedCellCaption(sheets::CaptionStrip strip, const std::string& caption) override;
     void RebuildSheet(int kind) override { OpenPropList(kind); }
-    void SelectRow(grid::Property& row) override { grid_.SelectRow(row); }
+    void SelectRow(grid::Property& row) override;
     bool ProcessRenamed(std::string& sNewValue) override;
     std::vector<std::string> GetTableFields(const std::string& tableName, const std::string& databaseName) override;
 

@@ -131,6 +131,12 @@ void frmDesigner::SetSelectedCellCaption(sheets::CaptionStrip which, const std::
         if (item.code > 0 && ++live == position) item.name = caption;
 }
 
+void frmDesigner::SelectRow(grid::Property& row) {
+    grid_.SelectRow(row);
+    // The help box follows the selection, which the grid does not report.
+    ShowPropertyHelp();
+}
+
 bool frmDesigner::ProcessRenamed(std::string& sNewValue) {
     const int index = list_.ListIndex();
     if (index >= 0 && list_.List(index) == kNewProcessEntry) {

@@ -317,6 +317,9 @@ private:
     bool sizePointer_ = false;
     bool lowerSpinPressed_ = false;
     int commitDepth_ = 0;
+    // ValueChanged handlers running now: a box they open takes the focus,
+    // which must not commit the very edit they are deciding on again.
+    int valueChangedDepth_ = 0;
 };
 
 }  // namespace flowloom::grid

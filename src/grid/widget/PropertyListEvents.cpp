@@ -29,6 +29,11 @@ void PropertyList::RaiseSelChange(Property* oldRow, Property* newRow) {
 }
 
 void PropertyList::RaiseValueChanged(Property& row, std::string& value, bool& cancel) {
+    struct Running {
+        int& depth;
+        explicit Running(int& d) : depth(++d) {}
+        ~Running() { --depth; }
+    } running(valueChangedDepth_);
     if (sink_) sink_->ValueChanged(row, value, cancel);
     else emit ValueChanged(&row, value, cancel);
 }

@@ -231,7 +231,7 @@ void PropertyList::FocusChanged(QWidget* now) {
         ShowEditors();
     } else if (!inside && hasFocus_ && !leavingFocus_) {
         leavingFocus_ = true;
-        if (!edit_->isHidden()) TryCommitPending();
+        if (!edit_->isHidden() && valueChangedDepth_ == 0) TryCommitPending();
         hasFocus_ = false;
         HideControls();
         list_->viewport()->update();

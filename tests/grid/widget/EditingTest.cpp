@@ -63,6 +63,25 @@ TEST(GridEditing, EnterStoresUnlessCancelledEscapeRestoresAndLeavingTheRowCommit
     EXPECT_EQ(h.grid().SelectedItem(), &other);
 }
 
+TEST(GridEditing, AHandlerThatTakesTheFocusAwayIsNotAskedAgainForTheSameEdit) {
+    GridHarness h;
+    Property& row = h.grid().Properties().Add("Name", ExPropText, "old");
+    h.ClickCell(0, true);
+    h.Edit()->setFocus();
+    h.Edit()->selectAll();
+    QTest::keyClicks(h.Edit(), "refused");
+    // A message box of the handler has the keyboard focus while it is open.
+    h.sink.cancel = true;
+    h.sink.onValueChanged = [&](Property&, std::string&) {
+        h.Edit()->clearFocus();
+        QApplication::processEvents();
+    };
+    h.Key(h.Edit(), Qt::Key_Return);
+    EXPECT_EQ(h.sink.Count("ValueChanged"), 1u);
+    EXPECT_EQ(row.value(), "old");
+    EXPECT_EQ(h.Edit()->text(), "old");
+}
+
 TEST(GridEditing, CommitPendingWithoutSelectionIsAnErrorAndReEntryIsBounded) {
     GridHarness h;
     std::string source;
