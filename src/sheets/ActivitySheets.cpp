@@ -24,6 +24,13 @@ void ChangeDescription(SheetEdit& edit, Activity& activity) {
     edit.host.SetSelectedCellCaption(CaptionStrip::Activity, caption);
 }
 
+void ChangeInputDocument(SheetEdit& edit, FileActivity& activity, int kind) {
+    if (edit.text == activity.InputDocumentName()) return;
+    activity.SetInputDocumentName(edit.text);
+    edit.host.RebuildSheet(kind);
+    if (grid::Property* row = edit.rows.Item(SpacedName("InputDocumentName"))) edit.host.SelectRow(*row);
+}
+
 std::vector<std::string> GetDocumentNames(const SheetHost& host) {
     std::vector<std::string> names{std::string()};  // choosing none stays possible
     const auto process = host.CurrentProcess();

@@ -55,12 +55,12 @@ void SetPdfProperties(const Convert& activity, grid::Properties& rows, std::int3
             grid::Property& method = AddRow(rows, {"PDFConvertingMethod", grid::ExPropCustomList});
             method.SetListItems(
                 std::vector<std::string>{"0 - Default", "1 - Microsoft Save as PDF", "2 - PostScript to PDF"});
-            method.SetValue(ListItemAt(method, static_cast<std::size_t>(activity.PDFConvertingMethod())));
+            ShowListItem(method, activity.PDFConvertingMethod());
         }
         if (activity.PDFConvertingMethod() == kPostScriptMethod && lastRow < PostscriptToPDFConverter) {
             grid::Property& converter = AddRow(rows, {"PostscriptToPDFConverter", grid::ExPropCustomList});
             converter.SetListItems(std::vector<std::string>{"1 - Acrobat Distiller", "2 - Ghostscript"});
-            converter.SetValue(ListItemAt(converter, static_cast<std::size_t>(activity.Postscript2PDFConverter() - 1)));
+            ShowListItem(converter, activity.Postscript2PDFConverter() - 1);
         }
     });
 }
@@ -74,7 +74,7 @@ void SetConvertPropertiesValues(SheetHost& host, grid::Properties& rows, const G
     step([&] {
         grid::Property& row = rows.Item(OutputConvertFormat);
         const std::int32_t format = activity->OutputFileFormat();
-        row.SetValue(ListItemAt(row, static_cast<std::size_t>(format != 0 ? format - 1 : 0)));
+        ShowListItem(row, format != 0 ? format - 1 : 0);
     });
     step([&] { SetIfNotEmpty(rows.Item(Folder), activity->Folder()); });
     step([&] { SetIfNotEmpty(rows.Item(File), activity->File()); });

@@ -2,7 +2,6 @@
 // whichever produced the input document; other documents have none.
 #include "sheets/SheetTables.h"
 
-#include "app/Common.h"
 #include "grid/Properties.h"
 #include "model/Process.h"
 #include "model/PrintOut.h"
@@ -106,7 +105,7 @@ void SetPrintRow(const PrintRow& def, const TaggedValue& value, grid::Property& 
     if (value.IsEmpty() || value.Text().empty()) return;
     const std::string text = value.Text();
     if (def.items.empty()) return row.SetValue(text);
-    if (vb::IsNumeric(text)) row.SetValue(ListItemAt(row, static_cast<std::size_t>(vb::CLng(vb::Val(text)))));
+    if (vb::IsNumeric(text)) ShowListItem(row, vb::CLng(vb::Val(text)));
 }
 
 void SetPrintOutPropertiesValues(SheetHost& host, grid::Properties& rows, const GuardedSteps& step) {
@@ -149,14 +148,7 @@ bool PrintOutChange(SheetEdit& edit) {
     if (!activity) return true;
     switch (edit.index) {
     case Description: ChangeDescription(edit, *activity); break;
-    case InputDocumentName:
-        if (edit.text != activity->InputDocumentName()) {
-            activity->SetInputDocumentName(edit.text);
-            // Another document may come from another application: the rows follow it.
-            edit.host.RebuildSheet(12);
-            if (grid::Property* row = edit.rows.Item(SpacedName("InputDocumentName"))) edit.host.SelectRow(*row);
-        }
-        break;
+    case InputDocumentName: ChangeInputDocument(edit, *activity, 12); break;
     case Printer: activity->SetPrinter(edit.text == kDefaultPrinterLabel ? std::string() : edit.text); break;
     default: ChangeArgument(edit, *activity); break;
     }

@@ -56,7 +56,7 @@ void SetProcessPropertiesValues(SheetHost& host, grid::Properties& rows, const G
     step([&] {
         // Any mode other than the current record shows as all records.
         grid::Property& row = rows.Item(ProcessRecords);
-        row.SetValue(ListItemAt(row, process->ProcessRecords() != 0 ? 1 : 0));
+        ShowListItem(row, process->ProcessRecords() != 0 ? 1 : 0);
     });
     step([&] { SetIfNotEmpty(rows.Item(MainDatasourceName), process->MainDataSourceName()); });
     step([&] { rows.Item(AbortOnError).SetValue(BoolText(process->AbortOnError())); });

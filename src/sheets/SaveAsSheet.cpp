@@ -4,7 +4,6 @@
 #include "sheets/SaveAsFormats.h"
 #include "sheets/SheetTables.h"
 
-#include "app/Common.h"
 #include "grid/Properties.h"
 #include "model/Documents.h"
 #include "model/Process.h"
@@ -111,7 +110,7 @@ void SetFileFormat(SaveAs& activity, std::int32_t application, grid::Property& r
     const std::string text = stored.Text();
     if (application == dockind::Excel) {
         const auto position = vb::Val(text) == 0 ? std::optional<std::int32_t>(0) : ExcelFormatPosition(text);
-        row.SetValue(ListItemAt(row, static_cast<std::size_t>(position.value_or(-1))));
+        ShowListItem(row, position.value_or(-1));
         return;
     }
     std::int32_t number = vb::CLng(vb::Val(text));
@@ -119,7 +118,7 @@ void SetFileFormat(SaveAs& activity, std::int32_t application, grid::Property& r
         activity.SetArgument(SaveAsArg::FileFormat, 0);
         number = 0;
     }
-    row.SetValue(ListItemAt(row, static_cast<std::size_t>(number)));
+    ShowListItem(row, number);
 }
 
 void SetArgumentRow(const ArgumentRow& def, const TaggedValue& value, grid::Property& row) {
@@ -128,7 +127,7 @@ void SetArgumentRow(const ArgumentRow& def, const TaggedValue& value, grid::Prop
     if (def.store == ListStore::None) return row.SetValue(text);
     if (!vb::IsNumeric(text)) return;
     const std::int32_t offset = def.store == ListStore::PositionPlusOne ? 1 : 0;
-    row.SetValue(ListItemAt(row, static_cast<std::size_t>(vb::CLng(vb::Val(text)) - offset)));
+    ShowListItem(row, vb::CLng(vb::Val(text)) - offset);
 }
 
 void SetSaveAsPropertiesValues(SheetHost& host, grid::Properties& rows, const GuardedSteps& step) {
@@ -147,7 +146,7 @@ void SetSaveAsPropertiesValues(SheetHost& host, grid::Properties& rows, const Gu
     step([&] { SetIfNotEmpty(rows.Item(File), activity->File()); });
     step([&] {
         grid::Property& row = rows.Item(OverwriteExistingFile);
-        row.SetValue(ListItemAt(row, static_cast<std::size_t>(activity->OverwriteExistingFile())));
+        ShowListItem(row, activity->OverwriteExistingFile());
     });
     const std::int32_t application = host.Memory().saveAsApplication;
     step([&] { SetFileFormat(*activity, application, rows.Item(FileFormat)); });
@@ -185,14 +184,7 @@ bool SaveAsChange(SheetEdit& edit) {
     const std::int32_t application = edit.host.Memory().saveAsApplication;
     switch (edit.index) {
     case Description: ChangeDescription(edit, *activity); break;
-    case InputDocumentName:
-        if (edit.text != activity->InputDocumentName()) {
-            activity->SetInputDocumentName(edit.text);
-            // Another document may come from another application: the rows follow it.
-            edit.host.RebuildSheet(11);
-            if (grid::Property* row = edit.rows.Item(SpacedName("InputDocumentName"))) edit.host.SelectRow(*row);
-        }
-        break;
+    case InputDocumentName: ChangeInputDocument(edit, *activity, 11); break;
     case Folder: activity->SetFolder(edit.text); break;
     case File: activity->SetFile(edit.text); break;
     case OverwriteExistingFile: ChangeOverwrite(edit, *activity); break;

@@ -85,11 +85,11 @@ void SetSendMailPropertiesValues(SheetHost& host, grid::Properties& rows, const 
     });
     step([&] {
         grid::Property& row = rows.Item(SendMethod);
-        row.SetValue(ListItemAt(row, static_cast<std::size_t>(activity->SendMethod())));
+        ShowListItem(row, activity->SendMethod());
     });
     step([&] {
         grid::Property& row = rows.Item(MailApplication);
-        row.SetValue(ListItemAt(row, static_cast<std::size_t>(activity->MailApplication())));
+        ShowListItem(row, activity->MailApplication());
     });
     std::int32_t index = SMTPServer;
     for (std::string SendMail::* member : kServerMembers)

@@ -23,11 +23,14 @@ void SetFixedList(grid::Property& row, std::vector<std::string> items) {
     row.SetValue(first);
 }
 
-const std::string& ListItemAt(const grid::Property& row, std::size_t position) {
+const std::string& ListItemAt(const grid::Property& row, std::int32_t position) {
     const auto& items = row.ListItems();
-    if (!items || position >= items->size()) RaiseStandardError(vberr::SubscriptOutOfRange);
-    return (*items)[position];
+    if (!items || position < 0 || static_cast<std::size_t>(position) >= items->size())
+        RaiseStandardError(vberr::SubscriptOutOfRange);
+    return (*items)[static_cast<std::size_t>(position)];
 }
+
+void ShowListItem(grid::Property& row, std::int32_t position) { row.SetValue(ListItemAt(row, position)); }
 
 void SetIfNotEmpty(grid::Property& row, const std::string& text) {
     if (!text.empty()) row.SetValue(text);

@@ -31,8 +31,10 @@ void AddRows(grid::Properties& rows, const std::vector<RowDef>& defs);
 
 // A list of fixed choices; the first is the row's value until the model says otherwise.
 void SetFixedList(grid::Property& row, std::vector<std::string> items);
-// The item at a 0-based position of the row's list.
-const std::string& ListItemAt(const grid::Property& row, std::size_t position);
+// The item at a 0-based position of the row's list; error 9 outside it.
+const std::string& ListItemAt(const grid::Property& row, std::int32_t position);
+// The row shows the item at a 0-based position of its list (error 9 outside it).
+void ShowListItem(grid::Property& row, std::int32_t position);
 
 // Text members reach a row only when they hold something, so that an empty
 // member leaves the row's default on show.

@@ -4,6 +4,7 @@
 #include "sheets/SheetRows.h"
 
 #include "model/Activity.h"
+#include "model/FileActivity.h"
 
 #include <memory>
 #include <string>
@@ -74,6 +75,11 @@ std::shared_ptr<T> SelectedActivityOf(const SheetHost& host) {
 // Row 1 of every activity sheet: the description, which is also the
 // caption of the activity's cell (its spaced type name when empty).
 void ChangeDescription(SheetEdit& edit, Activity& activity);
+
+// A new input document of a SaveAs or PrintOut (kind): it may come from
+// another application, whose rows differ, so the sheet is built again and
+// the input row selected once more. The same name changes nothing.
+void ChangeInputDocument(SheetEdit& edit, FileActivity& activity, int kind);
 
 // The offers of document names for input rows and the rows of the
 // documents before and after a mail merge.
