@@ -58,8 +58,10 @@ std::vector<std::string> FileFormatList(std::int32_t application) {
 }
 
 std::optional<std::int32_t> ExcelFormatPosition(std::string_view storedCode) {
-    const std::string codes = kExcelCodes;
-    const std::size_t hit = codes.find(";" + std::string(storedCode) + ";");
+    const std::string_view codes = kExcelCodes;
+    std::string needle(1, ';');
+    needle.append(storedCode).push_back(';');
+    const std::size_t hit = codes.find(needle);
     if (hit == std::string::npos) return std::nullopt;
     // Each ";" in front of the hit closes one code before it.
     return static_cast<std::int32_t>(std::count(codes.begin(), codes.begin() + static_cast<std::ptrdiff_t>(hit), ';'));
