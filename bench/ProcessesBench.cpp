@@ -53,7 +53,7 @@ struct StringWriter : pugi::xml_writer {
 
 // The unsaved-change check as the designer makes it.
 bool UnsavedChanges(flowloom::Processes& processes, const std::string& saved) {
-    return !flowloom::EqualsNoCase(processes.XML(), saved);
+    return processes.EditedSinceLoadOrSave() && !processes.XmlEqualsNoCase(saved);
 }
 
 // --- the programs run in fresh processes

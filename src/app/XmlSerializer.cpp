@@ -5,6 +5,7 @@
 #include "app/XmlDocument.h"
 
 #include "app/XmlChars.h"
+#include "app/XmlSink.h"
 #include "app/XmlNamespaces.h"
 
 #include <cstring>
@@ -212,6 +213,8 @@ void Serializer::Misc(const pugi::xml_node& node) {
 }
 
 }  // namespace
+
+void AppendEscapedXml(std::string& out, std::string_view text, bool attribute) { AppendEscaped(out, text, attribute); }
 
 std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint) {
     std::string out;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/TaggedValue.h"
+#include "app/Tracked.h"
 
 #include <array>
 #include <cstddef>
@@ -26,6 +27,7 @@ public:
     }
     void Set(Arg arg, TaggedValue value) {
         if (value.IsObject()) return;
+        ModelRevision::Bump();
         for (auto& [which, stored] : values_)
             if (which == arg) {
                 stored = std::move(value);

@@ -7,6 +7,7 @@
 #include "model/Groups.h"
 #include "model/Process.h"
 #include "model/xml/CProcessesXMLDoc.h"
+#include "model/xml/PrefixComparison.h"
 #include "options/Options.h"
 #include "support/Prompts.h"
 
@@ -80,14 +81,37 @@ bool Processes::ReadContents(const pugi::xml_node& root) {
 
 std::string Processes::XML() {
     try {
-        std::unique_ptr<XmlDocument> document = CProcessesXMLDoc().Generate(*this);
-        if (!document) return {};
-        std::string text = document->XML(lastXmlSize_ + lastXmlSize_ / 16);
-        lastXmlSize_ = text.size();
-        return text;
+        return GenerateXml();
     } catch (...) {
         ReportPendingError("Processes", "XML");
         return {};
+    }
+}
+
+std::string Processes::GenerateXml(const std::function<bool(std::string_view)>& consumer) {
+    // Writing fills the values that fall back on others on first read (a
+    // log datasource, a datasource's name), which counts as edits but
+    // changes nothing written: a model unedited before stays so.
+    const bool unedited = !EditedSinceLoadOrSave();
+    std::string text = ProcessesFileXml(*this, lastXmlSize_ + lastXmlSize_ / 16, consumer);
+    if (!consumer) lastXmlSize_ = text.size();
+    if (unedited) savedRevision_ = ModelRevision::Current();
+    return text;
+}
+
+bool Processes::XmlEqualsNoCase(std::string_view text) {
+    try {
+        PrefixComparison compare(text);
+        GenerateXml([&](std::string_view piece) { return compare.Next(piece); });
+        switch (compare.Finish()) {
+        case PrefixComparison::Equal: return true;
+        case PrefixComparison::Different: return false;
+        case PrefixComparison::Undecided: break;
+        }
+        return EqualsNoCase(GenerateXml(), text);
+    } catch (...) {
+        ReportPendingError("Processes", "XML");
+        return EqualsNoCase(std::string(), text);
     }
 }
 

@@ -82,6 +82,8 @@ void Processes::Load(const std::string& fileName, std::shared_ptr<void> applicat
     } catch (...) {
         ReportPendingError("Processes", "Load");
     }
+    // Whatever the Load made of the file, from here on only edits change it.
+    savedRevision_ = ModelRevision::Current();
 }
 
 // The save of the version step. A file that did not load as a processes file
@@ -119,8 +121,7 @@ bool Processes::Save(const std::string& fileName) { return SaveWith(fileName, Ba
 
 SaveOutcome Processes::SaveWith(const std::string& fileName, BackupRule rule) {
     try {
-        std::unique_ptr<XmlDocument> document = CProcessesXMLDoc().Generate(*this);
-        if (!document) RaiseStandardError(vberr::ObjectRequired);
+        const std::string text = GenerateXml();
         const std::string target = fileName.empty() ? processesFile_ : fileName;
         const fs::path folder = fs::path(target).parent_path();
         std::error_code ec;
@@ -128,16 +129,16 @@ SaveOutcome Processes::SaveWith(const std::string& fileName, BackupRule rule) {
             MsgBox("The folder '" + folder.string() + "' does not exist.", msgbox::Exclamation);
             return {};
         }
-        return WriteFile(target, *document, rule);
+        SaveOutcome outcome = WriteFile(target, text, rule);
+        savedRevision_ = ModelRevision::Current();  // the file now holds the model
+        return outcome;
     } catch (...) {
         ReportPendingError("Processes", "Processes.Save");
         return {};
     }
 }
 
-SaveOutcome Processes::WriteFile(const std::string& target, const XmlDocument& document, BackupRule rule) {
-    const std::string text = document.XML(lastXmlSize_);
-    lastXmlSize_ = text.size();
+SaveOutcome Processes::WriteFile(const std::string& target, const std::string& text, BackupRule rule) {
     // A new file shorter than the old one keeps its backup: the safety net
     // against a truncated save.
     SaveOutcome outcome = SaveFileSafely(target, text, BackupSuffix(), rule);
