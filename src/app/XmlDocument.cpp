@@ -100,10 +100,30 @@ void XmlDocument::AppendDeclaration() {
 
 std::string XmlDocument::XML(std::size_t sizeHint) const { return SerializeNode(document_, sizeHint); }
 
-bool NameIs(const pugi::xml_attribute& attribute, std::string_view name) {
-    return EqualsNoCase(attribute.name(), name);
+namespace {
+
+// EqualsNoCase of a parsed name and a name of the readers, walked once and
+// left at the first ASCII difference: the readers try many names on each
+// attribute, and most differ in their first letters. Only a name with a
+// byte beyond ASCII takes the full comparison.
+bool NameEquals(const char* text, std::string_view name) {
+    const char* at = text;
+    for (const char expected : name) {
+        const auto c = static_cast<unsigned char>(*at++);
+        const auto e = static_cast<unsigned char>(expected);
+        if (c == e) continue;
+        if ((c | e) >= 0x80) return EqualsNoCase(text, name);
+        const auto lower = static_cast<unsigned char>(c | 0x20);
+        if (lower != (e | 0x20) || lower < 'a' || lower > 'z') return false;
+    }
+    // An ASCII text that goes on folds longer than the name.
+    return *at == '\0';
 }
 
-bool NameIs(const pugi::xml_node& node, std::string_view name) { return EqualsNoCase(node.name(), name); }
+}  // namespace
+
+bool NameIs(const pugi::xml_attribute& attribute, std::string_view name) { return NameEquals(attribute.name(), name); }
+
+bool NameIs(const pugi::xml_node& node, std::string_view name) { return NameEquals(node.name(), name); }
 
 }  // namespace flowloom

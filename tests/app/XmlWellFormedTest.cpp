@@ -188,3 +188,26 @@ TEST(XmlLayer, AnyAttributeValueComesBackOrIsMadeWellFormed) {
 
 }  // namespace
 }  // namespace flowloom::test
+
+namespace flowloom {
+namespace {
+
+// The readers' name test: without regard to case, also beyond ASCII.
+TEST(XmlNames, NameIsComparesWithoutRegardToCaseAndStopsAtTheFirstDifference) {
+    pugi::xml_document document;
+    ASSERT_TRUE(document.load_string("<r Name='1' NAMES='2' nam='3' \xE2\x84\xAA" "ey='4' N\xC3\xA4me='5' a_='6'/>"));
+    std::vector<pugi::xml_attribute> a(document.first_child().attributes_begin(), document.first_child().attributes_end());
+    ASSERT_EQ(a.size(), 6u);
+    EXPECT_TRUE(NameIs(a[0], "name"));
+    EXPECT_TRUE(NameIs(a[0], "NAME"));
+    EXPECT_FALSE(NameIs(a[1], "Name"));   // longer
+    EXPECT_FALSE(NameIs(a[2], "Name"));   // shorter
+    EXPECT_TRUE(NameIs(a[3], "KEY"));     // the Kelvin sign folds to k
+    EXPECT_TRUE(NameIs(a[4], "n\xC3\xA4me"));
+    EXPECT_FALSE(NameIs(a[4], "Name"));
+    EXPECT_FALSE(NameIs(a[5], "a\x7F"));  // no letters: _ and DEL are no case pair
+    EXPECT_TRUE(NameIs(document.first_child(), "R"));
+}
+
+}  // namespace
+}  // namespace flowloom
