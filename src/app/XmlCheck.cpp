@@ -3,6 +3,7 @@
 #include "app/XmlChars.h"
 #include "app/XmlNamespaces.h"
 
+#include <algorithm>
 #include <deque>
 #include <vector>
 
@@ -346,7 +347,14 @@ void Checker::StartTag() {
         if (!space) Fail("White space is required between attributes.");
         Attribute();
     }
-    if (const char* fault = namespaces_.Open(name, attributes_, faults_)) FailAt(start + 1, fault);
+    // Names taken here are names already: without a colon or a declaration
+    // there is nothing about namespaces left to judge.
+    const auto unprefixed = [](std::string_view n) { return n.find(':') == std::string_view::npos; };
+    const bool plain = unprefixed(name) && declaredValues_.empty() &&
+                       std::all_of(attributes_.begin(), attributes_.end(),
+                                   [&](const XmlAttributeView& a) { return unprefixed(a.name); });
+    if (plain) namespaces_.OpenUnprefixed(attributes_, faults_);
+    else if (const char* fault = namespaces_.Open(name, attributes_, faults_)) FailAt(start + 1, fault);
     for (std::size_t i = 0; i < faults_.size(); ++i)
         if (faults_[i]) FailAt(attributeOffsets_[i], faults_[i]);
     if (empty) namespaces_.Close();

@@ -7,6 +7,7 @@
 #include "model/Groups.h"
 #include "model/Process.h"
 #include "model/xml/CProcessesXMLDoc.h"
+#include "model/xml/ElementCount.h"
 #include "model/xml/PrefixComparison.h"
 #include "options/Options.h"
 #include "support/Prompts.h"
@@ -61,6 +62,7 @@ bool Processes::ReadContents(const pugi::xml_node& root) {
         groups_ = groups;
     }
     auto self = shared_from_this();
+    processes_.Reserve(static_cast<std::size_t>(processes_.Count()) + ElementCount(root, "Process"));
     for (const pugi::xml_node& node : root.children("Process")) {
         auto process = Process::Create();
         process->LoadElement(node, self);

@@ -38,7 +38,12 @@ bool RegularFileExists(const std::string& path) {
 }
 
 // "FILE.NNNNNNNNN.bak": the last nine digits of the time as a serial day.
-std::string BackupSuffix() { return "." + vb::Right(vb::SerialNowText(), 9) + ".bak"; }
+std::string BackupSuffix() {
+    std::string suffix = ".";
+    suffix += vb::Right(vb::SerialNowText(), 9);
+    suffix += ".bak";
+    return suffix;
+}
 
 }  // namespace
 

@@ -19,8 +19,18 @@ struct Case {
 
 std::string Serialized(const pugi::xml_node& node) { return SerializeNode(node); }
 
+// Many attributes are checked for duplicates by sorting them.
+std::string ManyAttributes(const std::string& last) {
+    std::string tag = "<a";
+    for (int i = 0; i < 40; ++i) tag += " a" + std::to_string(i) + "=\"1\"";
+    return tag + " " + last + "=\"2\"/>";
+}
+
 TEST(XmlReader, RefusesWhatAConformantParserRefuses) {
+    const std::string manyWithDuplicate = ManyAttributes("a17");
     const std::vector<Case> cases = {
+        {"a duplicate among many attributes", manyWithDuplicate},
+        {"a default namespace of xml", "<a xmlns=\"http://www.w3.org/XML/1998/namespace\"/>"},
         {"a byte that is no UTF-8", "<a v=\"\xFF\"/>"},
         {"an overlong form", "<a v=\"\xC0\xBC\"/>"},
         {"a surrogate in UTF-8", "<a>\xED\xA0\x80</a>"},
