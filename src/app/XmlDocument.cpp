@@ -7,6 +7,7 @@
 #include "app/XmlEncoding.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace flowloom {
 
@@ -102,28 +103,43 @@ std::string XmlDocument::XML(std::size_t sizeHint) const { return SerializeNode(
 
 namespace {
 
-// EqualsNoCase of a parsed name and a name of the readers, walked once and
-// left at the first ASCII difference: the readers try many names on each
-// attribute, and most differ in their first letters. Only a name with a
-// byte beyond ASCII takes the full comparison.
-bool NameEquals(const char* text, std::string_view name) {
-    const char* at = text;
-    for (const char expected : name) {
-        const auto c = static_cast<unsigned char>(*at++);
-        const auto e = static_cast<unsigned char>(expected);
+// Byte by byte while both sides are ASCII: a difference there, or one side
+// going on where the other ends, settles it (case folding maps code point by
+// code point and never to nothing). A byte beyond ASCII leaves it open
+// (nullopt). `text` ends at `size` or at a NUL, whichever comes first.
+std::optional<bool> AsciiFirstEquals(const char* text, std::size_t size, std::string_view name) {
+    const auto ended = [&](std::size_t i) { return i >= size || text[i] == '\0'; };
+    std::size_t i = 0;
+    for (; i < name.size(); ++i) {
+        if (ended(i)) return false;
+        const auto c = static_cast<unsigned char>(text[i]);
+        const auto e = static_cast<unsigned char>(name[i]);
+        if ((c | e) >= 0x80) return std::nullopt;
         if (c == e) continue;
-        if ((c | e) >= 0x80) return EqualsNoCase(text, name);
         const auto lower = static_cast<unsigned char>(c | 0x20);
         if (lower != (e | 0x20) || lower < 'a' || lower > 'z') return false;
     }
-    // An ASCII text that goes on folds longer than the name.
-    return *at == '\0';
+    if (ended(i)) return true;
+    if (static_cast<unsigned char>(text[i]) >= 0x80) return std::nullopt;
+    return false;
+}
+
+bool NameOfNodeIs(const char* text, std::string_view name) {
+    if (const std::optional<bool> equal = AsciiFirstEquals(text, static_cast<std::size_t>(-1), name)) return *equal;
+    return EqualsNoCase(text, name);
 }
 
 }  // namespace
 
-bool NameIs(const pugi::xml_attribute& attribute, std::string_view name) { return NameEquals(attribute.name(), name); }
+bool NameIs(const pugi::xml_attribute& attribute, std::string_view name) { return NameOfNodeIs(attribute.name(), name); }
 
-bool NameIs(const pugi::xml_node& node, std::string_view name) { return NameEquals(node.name(), name); }
+bool NameIs(const pugi::xml_node& node, std::string_view name) { return NameOfNodeIs(node.name(), name); }
+
+bool NameIs(std::string_view text, std::string_view name) {
+    // A NUL in the view is a byte like any other here: the full comparison.
+    if (text.find('\0') == std::string_view::npos)
+        if (const std::optional<bool> equal = AsciiFirstEquals(text.data(), text.size(), name)) return *equal;
+    return EqualsNoCase(text, name);
+}
 
 }  // namespace flowloom

@@ -60,8 +60,11 @@ private:
 // out, and so is such an element with its content.
 std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint = 0);
 
-// Attribute-name comparison of the readers: without regard to case.
+// Attribute-name comparison of the readers: without regard to case, with
+// the result of EqualsNoCase, but left at the first ASCII difference (the
+// full case folding only for text beyond ASCII).
 bool NameIs(const pugi::xml_attribute& attribute, std::string_view name);
 bool NameIs(const pugi::xml_node& node, std::string_view name);
+bool NameIs(std::string_view text, std::string_view name);
 
 }  // namespace flowloom

@@ -216,6 +216,12 @@ void Serializer::Misc(const pugi::xml_node& node) {
 
 void AppendEscapedXml(std::string& out, std::string_view text, bool attribute) { AppendEscaped(out, text, attribute); }
 
+std::size_t PlainAttributeLength(std::string_view value) noexcept {
+    std::size_t i = 0;
+    while (i < value.size() && kPlain.value[static_cast<unsigned char>(value[i])]) ++i;
+    return i;
+}
+
 std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint) {
     std::string out;
     out.reserve(sizeHint);

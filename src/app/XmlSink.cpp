@@ -3,6 +3,7 @@
 #include "app/XmlDocument.h"
 
 #include <cassert>
+#include <cstring>
 
 namespace flowloom {
 
@@ -32,10 +33,21 @@ void TextXmlSink::Start(std::string_view name) {
 void TextXmlSink::Attribute(std::string_view name, std::string_view value) {
     if (stopped_) return;
     assert(startTagOpen_ && "attributes go before the children");
-    out_ += ' ';
-    out_ += name;
-    out_ += "=\"";
-    AppendEscapedXml(out_, value, true);
+    // The plain start of the value goes out with the name in one piece.
+    const std::size_t plain = PlainAttributeLength(value);
+    const std::size_t at = out_.size();
+    out_.resize(at + name.size() + plain + 4);
+    char* p = out_.data() + at;
+    *p++ = ' ';
+    std::memcpy(p, name.data(), name.size());
+    p += name.size();
+    *p++ = '=';
+    *p++ = '"';
+    std::memcpy(p, value.data(), plain);
+    p[plain] = '"';
+    if (plain == value.size()) return;
+    out_.pop_back();
+    AppendEscapedXml(out_, value.substr(plain), true);
     out_ += '"';
 }
 

@@ -101,5 +101,7 @@ private:
 // Appends text escaped as the serialiser escapes attribute values (`attribute`)
 // or element text: characters XML does not allow become U+FFFD.
 void AppendEscapedXml(std::string& out, std::string_view text, bool attribute);
+// How many bytes at the start of an attribute value go out as they are.
+std::size_t PlainAttributeLength(std::string_view value) noexcept;
 
 }  // namespace flowloom

@@ -47,11 +47,11 @@ int FindArgument(const std::array<const char*, N>& names, std::string_view name)
 
 }  // namespace flowloom
 
-#include "support/TextCompare.h"
+#include "app/XmlDocument.h"
 
 template <std::size_t N>
 int flowloom::FindArgument(const std::array<const char*, N>& names, std::string_view name) {
     for (std::size_t i = 0; i < N; ++i)
-        if (EqualsNoCase(names[i], name)) return static_cast<int>(i);
+        if (NameIs(name, names[i])) return static_cast<int>(i);
     return -1;
 }

@@ -20,7 +20,7 @@ std::optional<std::int32_t> ReadWordList(std::string_view text, const char* word
     if (auto number = vb::ToNumber(trimmed)) return vb::CLng(*number);
     const auto list = vb::Split(words, ";");
     for (std::size_t i = 0; i < list.size(); ++i)
-        if (EqualsNoCase(trimmed, list[i])) return static_cast<std::int32_t>(i);
+        if (NameIs(trimmed, list[i])) return static_cast<std::int32_t>(i);
     return std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 // The XML layer reads only what a conformant parser reads, and writes only
 // what it reads; libxml2 is the referee of both.
 #include "app/XmlDocument.h"
+#include "support/TextCompare.h"
 #include "testsupport/XmlReferee.h"
 
 #include <gtest/gtest.h>
@@ -217,6 +218,12 @@ TEST(XmlNames, NameIsComparesWithoutRegardToCaseAndStopsAtTheFirstDifference) {
     EXPECT_FALSE(NameIs(a[4], "Name"));
     EXPECT_FALSE(NameIs(a[5], "a\x7F"));  // no letters: _ and DEL are no case pair
     EXPECT_TRUE(NameIs(document.first_child(), "R"));
+    // Texts that are no node names give what EqualsNoCase gives.
+    using namespace std::string_view_literals;
+    for (const auto& [text, name] : std::vector<std::pair<std::string_view, std::string_view>>{
+             {"ab"sv, "AB"sv}, {"ab"sv, "ab\0"sv}, {"ab\0"sv, "ab"sv}, {"a\0b"sv, "a\0B"sv}, {"Stra\xC3\x9F" "e"sv, "STRASSE"sv},
+             {""sv, ""sv}, {""sv, "a"sv}, {"abc"sv, "ab"sv}, {"\xFF"sv, "\xFF"sv}, {"ab\xC3\x84"sv, "AB\xC3\xA4"sv}})
+        EXPECT_EQ(NameIs(text, name), EqualsNoCase(text, name)) << text << " / " << name;
 }
 
 }  // namespace
