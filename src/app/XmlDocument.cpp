@@ -77,6 +77,40 @@ bool XmlDocument::LoadXml(std::string_view bytes) {
     return true;
 }
 
+bool XmlDocument::LoadOutline(std::string_view bytes, std::string& storage, XmlOutline& outline) {
+    error_ = {};
+    document_.reset();
+    outline = {};
+    std::string_view text;
+    XmlSyntaxError syntax;
+    if (!DecodeXmlText(bytes, storage, text, syntax)) {
+        SetParseError(syntax.offset, syntax.reason, text);
+        return false;
+    }
+    if (std::optional<XmlSyntaxError> error = CheckXmlDocument(text, outline)) {
+        SetParseError(error->offset, error->reason, text);
+        return false;
+    }
+    // The root's start tag alone, closed at once.
+    const std::string_view tag = outline.rootStartTag;
+    std::string root(tag.substr(0, tag.size() - 1));  // without its ">"
+    if (root.empty() || root.back() != '/') root += '/';
+    root += '>';
+    const pugi::xml_parse_result result = document_.load_buffer(root.data(), root.size(), kParseOptions, pugi::encoding_utf8);
+    if (!result || !document_.document_element()) {
+        // The check passed, so this does not happen; the whole text then
+        // tells what went wrong as LoadXml would.
+        outline = {};
+        return LoadXml(text);
+    }
+    return true;
+}
+
+pugi::xml_node ParseChild(const XmlOutline::Child& child, pugi::xml_document& document) {
+    if (!document.load_buffer(child.text.data(), child.text.size(), kParseOptions, pugi::encoding_utf8)) return {};
+    return document.document_element();
+}
+
 void XmlDocument::SetParseError(std::size_t offset, std::string reason, std::string_view text) {
     offset = std::min(offset, text.size());
     int line = 1;

@@ -116,9 +116,10 @@ public:
     bool Disposed() const noexcept { return disposed_; }
 
 private:
-    void CheckLoadedDocument(XmlDocument& document);
-    bool ReadRoot(const pugi::xml_node& root);
-    bool ReadContents(const pugi::xml_node& root);
+    void CheckLoadedDocument(XmlDocument& document, const XmlOutline& outline);
+    bool ReadRoot(const pugi::xml_node& root, const XmlOutline& outline);
+    // The root's children, parsed and read one at a time.
+    bool ReadContents(const XmlOutline& outline);
     void RewriteLoadedFile(bool replacesUnloaded);
     SaveOutcome SaveWith(const std::string& fileName, BackupRule rule);
     SaveOutcome WriteFile(const std::string& target, const std::string& text, BackupRule rule);

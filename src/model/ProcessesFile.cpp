@@ -76,8 +76,10 @@ void Processes::Load(const std::string& fileName, std::shared_ptr<void> applicat
             loadedText_ = std::move(*bytes);
             lastXmlSize_ = loadedText_.size();
             XmlDocument document;
-            document.LoadXml(loadedText_);
-            CheckLoadedDocument(document);
+            XmlOutline outline;
+            std::string converted;
+            document.LoadOutline(loadedText_, converted, outline);
+            CheckLoadedDocument(document, outline);
         }
         // Old files are converted and written back at once; a new one is created.
         if (version_ != 1) {
@@ -103,7 +105,7 @@ void Processes::RewriteLoadedFile(bool replacesUnloaded) {
     loadRewrite_.backup = outcome.backup.string();
 }
 
-void Processes::CheckLoadedDocument(XmlDocument& document) {
+void Processes::CheckLoadedDocument(XmlDocument& document, const XmlOutline& outline) {
     try {
         if (!document.DocumentElement()) {
             const XmlParseError& error = document.ParseError();
@@ -115,7 +117,7 @@ void Processes::CheckLoadedDocument(XmlDocument& document) {
         // A root of another name fails in ReadRoot, as a call on nothing.
         if (std::string_view(document.DocumentElement().name()) != "Processes")
             notLoadedReason_ = "The top level node is not 'Processes'";
-        complete_ = ReadRoot(document.Native().child("Processes")) ? Loaded : Failed;
+        complete_ = ReadRoot(document.Native().child("Processes"), outline) ? Loaded : Failed;
     } catch (...) {
         if (notLoadedReason_.empty()) notLoadedReason_ = PendingError().Description();
         ReportPendingError("Processes", "CheckLoadedDocument");

@@ -228,3 +228,51 @@ TEST(XmlNames, NameIsComparesWithoutRegardToCaseAndStopsAtTheFirstDifference) {
 
 }  // namespace
 }  // namespace flowloom
+
+namespace flowloom {
+namespace {
+
+// The outline hands a reader the root's start tag and each child of the root
+// exactly as it stands, whatever comes between them.
+TEST(XmlOutline, TheRootsChildrenComeAsTheirOwnTextWithTheirNames) {
+    const std::string text =
+        "<?xml version=\"1.0\"?><!-- before --><R a=\"x&gt;y\" b='>'>\r\n text <A/><!-- c --><?pi x?>"
+        "<B k=\"1\"><B><A/></B>&amp;</B><![CDATA[<C/>]]><p:C xmlns:p=\"urn:p\">t</p:C>\n<A\r\n/></R><!-- after -->";
+    XmlOutline outline;
+    ASSERT_FALSE(CheckXmlDocument(text, outline));
+    EXPECT_EQ(outline.rootName, "R");
+    EXPECT_EQ(outline.rootStartTag, "<R a=\"x&gt;y\" b='>'>");
+    std::vector<std::pair<std::string, std::string>> children;
+    for (const auto& child : outline.children) children.emplace_back(child.name, child.text);
+    const std::vector<std::pair<std::string, std::string>> expected = {
+        {"A", "<A/>"}, {"B", "<B k=\"1\"><B><A/></B>&amp;</B>"}, {"p:C", "<p:C xmlns:p=\"urn:p\">t</p:C>"}, {"A", "<A\r\n/>"}};
+    EXPECT_EQ(children, expected);
+
+    // An empty root has no children; a broken document no outline.
+    ASSERT_FALSE(CheckXmlDocument("<R/>", outline));
+    EXPECT_EQ(outline.rootStartTag, "<R/>");
+    EXPECT_TRUE(outline.children.empty());
+    EXPECT_TRUE(CheckXmlDocument("<R><A></R>", outline));
+    EXPECT_TRUE(outline.children.empty());
+}
+
+TEST(XmlOutline, LoadOutlineKeepsTheRootsAttributesAndChildrenParseAlone) {
+    XmlDocument document;
+    XmlOutline outline;
+    std::string storage;
+    // UTF-16 text is converted first; the outline points into the conversion.
+    static const char raw[] = "\xFF\xFE<\0R\0 \0v\0=\0\"\0""1\0\"\0>\0<\0A\0 \0n\0=\0\"\0\xE4\0\"\0/\0>\0<\0/\0R\0>\0";
+    const std::string utf16(raw, sizeof raw - 1);
+    ASSERT_TRUE(document.LoadOutline(utf16, storage, outline));
+    EXPECT_STREQ(document.DocumentElement().attribute("v").value(), "1");
+    EXPECT_FALSE(document.DocumentElement().first_child());
+    ASSERT_EQ(outline.children.size(), 1u);
+    pugi::xml_document fragment;
+    const pugi::xml_node child = ParseChild(outline.children[0], fragment);
+    EXPECT_STREQ(child.attribute("n").value(), "\xC3\xA4");
+    EXPECT_FALSE(document.LoadOutline("<R><A></R>", storage, outline));
+    EXPECT_EQ(document.ParseError().line, 1);
+}
+
+}  // namespace
+}  // namespace flowloom
