@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/TaggedValue.h"
+#include "app/Tracked.h"
 
 #include <string>
 
@@ -8,8 +9,11 @@ namespace flowloom {
 
 // One name and one value: attachments of a mail, attributes of an option group.
 struct CDictionary {
-    std::string name;
-    TaggedValue value;
+    CDictionary() = default;
+    CDictionary(std::string name_, TaggedValue value_) : name(std::move(name_)), value(std::move(value_)) {}
+
+    TrackedString name;
+    TrackedObject<TaggedValue> value;
 };
 
 }  // namespace flowloom

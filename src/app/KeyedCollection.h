@@ -2,6 +2,7 @@
 
 #include "support/TextCompare.h"
 #include "support/VbError.h"
+#include "app/Tracked.h"
 
 #include <cstdint>
 #include <memory>
@@ -31,8 +32,7 @@ public:
 
     struct Entry {
         Ptr item;
-        std::string key;     // as given; empty for an item without a key
-        std::string folded;  // the key folded for comparison
+        std::string folded;  // the key folded for comparison; empty for an item without a key
     };
 
 
@@ -46,29 +46,36 @@ public:
     bool TryAdd(Ptr item, std::string_view key = {}, const CollectionPosition& before = {},
                 const CollectionPosition& after = {}) {
         std::string folded = key.empty() ? std::string() : FoldCase(key);
-        if (!folded.empty() && FindFolded(folded) != kNone) return false;
+        if (!folded.empty() && FindItem(folded)) return false;
         std::size_t at = entries_.size();
         if (!std::holds_alternative<std::monostate>(before)) at = ResolvePosition(before);
         else if (!std::holds_alternative<std::monostate>(after)) at = ResolvePosition(after) + 1;
-        const bool append = at == entries_.size();
-        if (index_ && append && !folded.empty()) index_->emplace(folded, at);
-        else if (!append) index_.reset();  // positions moved
-        entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(at),
-                        Entry{std::move(item), std::string(key), std::move(folded)});
+        if (index_ && !folded.empty()) index_->emplace(folded, item);
+        entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(at), Entry{std::move(item), std::move(folded)});
+        ModelRevision::Bump();
         return true;
     }
 
     const Ptr& Item(std::int32_t index) const { return entries_[CheckedIndex(index)].item; }
-    const Ptr& Item(std::string_view key) const { return entries_[IndexOfKey(key)].item; }
+    const Ptr& Item(std::string_view key) const {
+        const Ptr* item = key.empty() ? nullptr : FindItem(FoldCase(key));
+        if (!item) RaiseStandardError(vberr::InvalidProcedureCall);
+        return *item;
+    }
+    // Room for this many items in all.
+    void Reserve(std::size_t count) { entries_.reserve(count); }
     // Item by a position that may be an index or a key.
-    const Ptr& ItemAt(const CollectionPosition& position) const { return entries_[ResolvePosition(position)].item; }
+    const Ptr& ItemAt(const CollectionPosition& position) const {
+        if (const auto* key = std::get_if<std::string>(&position)) return Item(std::string_view(*key));
+        return entries_[ResolvePosition(position)].item;
+    }
 
     // KeyExists: whether an item is stored under this key.
-    bool Contains(std::string_view key) const { return !key.empty() && FindFolded(FoldCase(key)) != kNone; }
+    bool Contains(std::string_view key) const { return !key.empty() && FindItem(FoldCase(key)); }
     // The item under this key, or nothing; no error.
     Ptr Find(std::string_view key) const {
-        const std::size_t i = key.empty() ? kNone : FindFolded(FoldCase(key));
-        return i == kNone ? nullptr : entries_[i].item;
+        const Ptr* item = key.empty() ? nullptr : FindItem(FoldCase(key));
+        return item ? *item : nullptr;
     }
 
     std::int32_t Count() const noexcept { return static_cast<std::int32_t>(entries_.size()); }
@@ -93,6 +100,7 @@ public:
     }
 
     void Clear() noexcept {
+        if (!entries_.empty()) ModelRevision::Bump();
         entries_.clear();
         index_.reset();
     }
@@ -138,20 +146,31 @@ private:
     static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
     static constexpr std::size_t kIndexFrom = 32;  // entries before a hash index pays off
 
-    std::size_t FindFolded(const std::string& folded) const {
-        if (entries_.size() < kIndexFrom) {
-            for (std::size_t i = 0; i < entries_.size(); ++i)
-                if (entries_[i].folded == folded) return i;
-            return kNone;
+    // The item under a folded key, or null.
+    const Ptr* FindItem(const std::string& folded) const {
+        if (entries_.size() < kIndexFrom && !index_) {
+            for (const Entry& e : entries_)
+                if (e.folded == folded) return &e.item;
+            return nullptr;
         }
         if (!index_) {
-            index_ = std::make_unique<std::unordered_map<std::string, std::size_t>>();
+            index_ = std::make_unique<std::unordered_map<std::string, Ptr>>();
             index_->reserve(entries_.size());
-            for (std::size_t i = 0; i < entries_.size(); ++i)
-                if (!entries_[i].folded.empty()) index_->emplace(entries_[i].folded, i);
+            for (const Entry& e : entries_)
+                if (!e.folded.empty()) index_->emplace(e.folded, e.item);
         }
         auto it = index_->find(folded);
-        return it == index_->end() ? kNone : it->second;
+        return it == index_->end() ? nullptr : &it->second;
+    }
+    // The position of the item under a folded key: the index names the
+    // item, its place is looked up among the entries (only removes and
+    // positional inserts ask, which move entries anyway).
+    std::size_t FindFolded(const std::string& folded) const {
+        const Ptr* item = FindItem(folded);
+        if (!item) return kNone;
+        for (std::size_t i = 0; i < entries_.size(); ++i)
+            if (entries_[i].item == *item && entries_[i].folded == folded) return i;
+        return kNone;
     }
     std::size_t CheckedIndex(std::int32_t index) const {
         if (index < 1 || static_cast<std::size_t>(index) > entries_.size()) RaiseStandardError(vberr::SubscriptOutOfRange);
@@ -176,14 +195,15 @@ private:
                                                                           : vberr::InvalidProcedureCall);
     }
     void EraseAt(std::size_t i) {
+        if (index_ && !entries_[i].folded.empty()) index_->erase(entries_[i].folded);
         entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(i));
-        index_.reset();
+        ModelRevision::Bump();
     }
 
     std::vector<Entry> entries_;
-    // Folded key to position, only for large collections; dropped by any
-    // change that moves entries and built again on the next lookup.
-    mutable std::unique_ptr<std::unordered_map<std::string, std::size_t>> index_;
+    // Folded key to item, only for large collections: it holds no
+    // positions, so inserts and removes anywhere keep it valid.
+    mutable std::unique_ptr<std::unordered_map<std::string, Ptr>> index_;
 };
 
 // KeyExists of the shared helpers: true when the key can be looked up.

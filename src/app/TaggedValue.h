@@ -29,6 +29,8 @@ public:
     // The value as text, as the host's string conversion gives it: "" for
     // nothing, "True"/"False" for a truth value. An object is error 13.
     std::string Text() const;
+    // The text held, without a copy; null when the value is no text.
+    const std::string* TextIf() const noexcept { return std::get_if<std::string>(&value_); }
     std::shared_ptr<void> Object() const;
 
     bool operator==(const TaggedValue&) const = default;

@@ -3,6 +3,7 @@
 #include "app/XmlChars.h"
 #include "app/XmlNamespaces.h"
 
+#include <algorithm>
 #include <deque>
 #include <vector>
 
@@ -75,7 +76,7 @@ bool EqualsNoCaseAscii(std::string_view a, std::string_view b) {
 // violation ends it with Malformed.
 class Checker {
 public:
-    explicit Checker(std::string_view text) : text_(text) {}
+    explicit Checker(std::string_view text, XmlOutline* outline = nullptr) : text_(text), outline_(outline) {}
     void Document();
 
 private:
@@ -117,7 +118,14 @@ private:
     void CData();
     void EndTag();
 
+    // Where the child of the root being read began, while outlining.
+    void Outline(std::size_t before, bool atRootLevel);
+
     std::string_view text_;
+    XmlOutline* outline_;
+    std::size_t childStart_ = 0;
+    std::string_view childName_;
+    std::string_view lastStartTag_;  // name of the start tag read last
     std::size_t pos_ = 0;
     std::vector<std::string_view> open_;  // names of the open elements
     XmlNamespaceScope namespaces_;
@@ -310,8 +318,35 @@ void Checker::Literal(bool pubid) {
 }
 
 void Checker::Element() {
+    const std::size_t start = pos_;
     StartTag();
-    while (!open_.empty()) Content();
+    if (outline_) {
+        outline_->rootName = lastStartTag_;
+        outline_->rootStartTag = text_.substr(start, pos_ - start);
+    }
+    while (!open_.empty()) {
+        const std::size_t before = pos_;
+        const bool atRootLevel = open_.size() == 1;
+        Content();
+        if (outline_) Outline(before, atRootLevel);
+    }
+}
+
+void Checker::Outline(std::size_t before, bool atRootLevel) {
+    if (atRootLevel && open_.size() == 2) {  // a child of the root opened
+        childStart_ = before;
+        childName_ = lastStartTag_;
+        return;
+    }
+    const bool childEnded = !atRootLevel && open_.size() == 1;
+    const bool emptyChild = atRootLevel && open_.size() == 1 && text_[before] == '<' &&
+                            text_[before + 1] != '/' && text_[before + 1] != '!' && text_[before + 1] != '?';
+    if (emptyChild) {
+        childStart_ = before;
+        childName_ = lastStartTag_;
+    }
+    if (!childEnded && !emptyChild) return;
+    outline_->children.push_back({childName_, text_.substr(childStart_, pos_ - childStart_)});
 }
 
 // One piece of the content of the innermost open element.
@@ -331,6 +366,7 @@ void Checker::StartTag() {
     const std::size_t start = pos_;
     ++pos_;
     const std::string_view name = TakeName(kBadName);
+    lastStartTag_ = name;
     attributes_.clear();
     attributeOffsets_.clear();
     declaredValues_.clear();
@@ -346,7 +382,14 @@ void Checker::StartTag() {
         if (!space) Fail("White space is required between attributes.");
         Attribute();
     }
-    if (const char* fault = namespaces_.Open(name, attributes_, faults_)) FailAt(start + 1, fault);
+    // Names taken here are names already: without a colon or a declaration
+    // there is nothing about namespaces left to judge.
+    const auto unprefixed = [](std::string_view n) { return n.find(':') == std::string_view::npos; };
+    const bool plain = unprefixed(name) && declaredValues_.empty() &&
+                       std::all_of(attributes_.begin(), attributes_.end(),
+                                   [&](const XmlAttributeView& a) { return unprefixed(a.name); });
+    if (plain) namespaces_.OpenUnprefixed(attributes_, faults_);
+    else if (const char* fault = namespaces_.Open(name, attributes_, faults_)) FailAt(start + 1, fault);
     for (std::size_t i = 0; i < faults_.size(); ++i)
         if (faults_[i]) FailAt(attributeOffsets_[i], faults_[i]);
     if (empty) namespaces_.Close();
@@ -447,6 +490,17 @@ std::optional<XmlSyntaxError> CheckXmlDocument(std::string_view text) {
         Checker(text).Document();
         return std::nullopt;
     } catch (const Malformed& m) {
+        return XmlSyntaxError{m.offset, m.reason};
+    }
+}
+
+std::optional<XmlSyntaxError> CheckXmlDocument(std::string_view text, XmlOutline& outline) {
+    outline = {};
+    try {
+        Checker(text, &outline).Document();
+        return std::nullopt;
+    } catch (const Malformed& m) {
+        outline = {};
         return XmlSyntaxError{m.offset, m.reason};
     }
 }

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace flowloom {
 
@@ -22,5 +23,21 @@ struct XmlSyntaxError {
 // subset (whose declarations could change what the document says), are
 // refused. The first violation, or nothing when the text is a document.
 std::optional<XmlSyntaxError> CheckXmlDocument(std::string_view text);
+
+// The outline of a document that passed the check: the root's start tag and
+// each child element of the root, as pieces of the checked text, so that a
+// reader can parse and read one child at a time instead of the whole tree.
+struct XmlOutline {
+    struct Child {
+        std::string_view name;
+        std::string_view text;  // from its "<" to the end of its end tag
+    };
+    std::string_view rootName;
+    std::string_view rootStartTag;  // "<Name ...>" or "<Name .../>"
+    std::vector<Child> children;
+};
+
+// As above; when the text is a document, `outline` gets its outline.
+std::optional<XmlSyntaxError> CheckXmlDocument(std::string_view text, XmlOutline& outline);
 
 }  // namespace flowloom

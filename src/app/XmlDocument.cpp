@@ -7,6 +7,7 @@
 #include "app/XmlEncoding.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace flowloom {
 
@@ -76,6 +77,40 @@ bool XmlDocument::LoadXml(std::string_view bytes) {
     return true;
 }
 
+bool XmlDocument::LoadOutline(std::string_view bytes, std::string& storage, XmlOutline& outline) {
+    error_ = {};
+    document_.reset();
+    outline = {};
+    std::string_view text;
+    XmlSyntaxError syntax;
+    if (!DecodeXmlText(bytes, storage, text, syntax)) {
+        SetParseError(syntax.offset, syntax.reason, text);
+        return false;
+    }
+    if (std::optional<XmlSyntaxError> error = CheckXmlDocument(text, outline)) {
+        SetParseError(error->offset, error->reason, text);
+        return false;
+    }
+    // The root's start tag alone, closed at once.
+    const std::string_view tag = outline.rootStartTag;
+    std::string root(tag.substr(0, tag.size() - 1));  // without its ">"
+    if (root.empty() || root.back() != '/') root += '/';
+    root += '>';
+    const pugi::xml_parse_result result = document_.load_buffer(root.data(), root.size(), kParseOptions, pugi::encoding_utf8);
+    if (!result || !document_.document_element()) {
+        // The check passed, so this does not happen; the whole text then
+        // tells what went wrong as LoadXml would.
+        outline = {};
+        return LoadXml(text);
+    }
+    return true;
+}
+
+pugi::xml_node ParseChild(const XmlOutline::Child& child, pugi::xml_document& document) {
+    if (!document.load_buffer(child.text.data(), child.text.size(), kParseOptions, pugi::encoding_utf8)) return {};
+    return document.document_element();
+}
+
 void XmlDocument::SetParseError(std::size_t offset, std::string reason, std::string_view text) {
     offset = std::min(offset, text.size());
     int line = 1;
@@ -100,10 +135,45 @@ void XmlDocument::AppendDeclaration() {
 
 std::string XmlDocument::XML(std::size_t sizeHint) const { return SerializeNode(document_, sizeHint); }
 
-bool NameIs(const pugi::xml_attribute& attribute, std::string_view name) {
-    return EqualsNoCase(attribute.name(), name);
+namespace {
+
+// Byte by byte while both sides are ASCII: a difference there, or one side
+// going on where the other ends, settles it (case folding maps code point by
+// code point and never to nothing). A byte beyond ASCII leaves it open
+// (nullopt). `text` ends at `size` or at a NUL, whichever comes first.
+std::optional<bool> AsciiFirstEquals(const char* text, std::size_t size, std::string_view name) {
+    const auto ended = [&](std::size_t i) { return i >= size || text[i] == '\0'; };
+    std::size_t i = 0;
+    for (; i < name.size(); ++i) {
+        if (ended(i)) return false;
+        const auto c = static_cast<unsigned char>(text[i]);
+        const auto e = static_cast<unsigned char>(name[i]);
+        if ((c | e) >= 0x80) return std::nullopt;
+        if (c == e) continue;
+        const auto lower = static_cast<unsigned char>(c | 0x20);
+        if (lower != (e | 0x20) || lower < 'a' || lower > 'z') return false;
+    }
+    if (ended(i)) return true;
+    if (static_cast<unsigned char>(text[i]) >= 0x80) return std::nullopt;
+    return false;
 }
 
-bool NameIs(const pugi::xml_node& node, std::string_view name) { return EqualsNoCase(node.name(), name); }
+bool NameOfNodeIs(const char* text, std::string_view name) {
+    if (const std::optional<bool> equal = AsciiFirstEquals(text, static_cast<std::size_t>(-1), name)) return *equal;
+    return EqualsNoCase(text, name);
+}
+
+}  // namespace
+
+bool NameIs(const pugi::xml_attribute& attribute, std::string_view name) { return NameOfNodeIs(attribute.name(), name); }
+
+bool NameIs(const pugi::xml_node& node, std::string_view name) { return NameOfNodeIs(node.name(), name); }
+
+bool NameIs(std::string_view text, std::string_view name) {
+    // A NUL in the view is a byte like any other here: the full comparison.
+    if (text.find('\0') == std::string_view::npos)
+        if (const std::optional<bool> equal = AsciiFirstEquals(text.data(), text.size(), name)) return *equal;
+    return EqualsNoCase(text, name);
+}
 
 }  // namespace flowloom

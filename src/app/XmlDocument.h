@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/XmlCheck.h"
+
 #include <pugixml.hpp>
 
 #include <filesystem>
@@ -32,6 +34,10 @@ public:
     // Parses the bytes of a document: UTF-8, UTF-16 with a byte order mark,
     // or the 8-bit encoding its declaration names (ISO-8859-1, US-ASCII).
     bool LoadXml(std::string_view bytes);
+    // As LoadXml, but the tree holds the root element alone, with its
+    // attributes; its children stay text in `outline` (pieces of `bytes`, or
+    // of `storage` when the bytes had to be converted) for ParseChild.
+    bool LoadOutline(std::string_view bytes, std::string& storage, XmlOutline& outline);
 
     // The root element; a null node after a failed parse or for a new document.
     pugi::xml_node DocumentElement() const { return document_.document_element(); }
@@ -53,6 +59,10 @@ private:
     XmlParseError error_;
 };
 
+// Parses one child of an outline into `document` (replacing what it held);
+// its element, or a null node when the text does not parse.
+pugi::xml_node ParseChild(const XmlOutline::Child& child, pugi::xml_document& document);
+
 // The serialised text of one node (an element or a whole document). It is
 // well-formed whatever the tree holds: characters XML does not allow, and
 // bytes that are no UTF-8, become U+FFFD; an attribute whose name is no
@@ -60,8 +70,11 @@ private:
 // out, and so is such an element with its content.
 std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint = 0);
 
-// Attribute-name comparison of the readers: without regard to case.
+// Attribute-name comparison of the readers: without regard to case, with
+// the result of EqualsNoCase, but left at the first ASCII difference (the
+// full case folding only for text beyond ASCII).
 bool NameIs(const pugi::xml_attribute& attribute, std::string_view name);
 bool NameIs(const pugi::xml_node& node, std::string_view name);
+bool NameIs(std::string_view text, std::string_view name);
 
 }  // namespace flowloom

@@ -46,6 +46,13 @@ const char* XmlNamespaceScope::Open(std::string_view element, const std::vector<
     return NameFault(element, false);
 }
 
+void XmlNamespaceScope::OpenUnprefixed(const std::vector<XmlAttributeView>& attributes,
+                                       std::vector<const char*>& faults) {
+    opened_.push_back(bindings_.size());
+    faults.assign(attributes.size(), nullptr);
+    MarkDuplicates(attributes, faults);
+}
+
 void XmlNamespaceScope::Close() {
     if (opened_.empty()) return;
     bindings_.resize(opened_.back());

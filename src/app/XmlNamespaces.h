@@ -28,6 +28,10 @@ public:
     // result is the reason the element's own name cannot stand, or nullptr.
     const char* Open(std::string_view element, const std::vector<XmlAttributeView>& attributes,
                      std::vector<const char*>& faults);
+    // Opens an element whose names are known to be names without a colon
+    // and none of whose attributes is a declaration (as the reader finds
+    // most): only duplicates can be at fault, and no name has to be read again.
+    void OpenUnprefixed(const std::vector<XmlAttributeView>& attributes, std::vector<const char*>& faults);
     // Closes the element opened last, with its declarations.
     void Close();
 

@@ -5,6 +5,7 @@
 #include "app/XmlDocument.h"
 
 #include "app/XmlChars.h"
+#include "app/XmlSink.h"
 #include "app/XmlNamespaces.h"
 
 #include <cstring>
@@ -212,6 +213,14 @@ void Serializer::Misc(const pugi::xml_node& node) {
 }
 
 }  // namespace
+
+void AppendEscapedXml(std::string& out, std::string_view text, bool attribute) { AppendEscaped(out, text, attribute); }
+
+std::size_t PlainAttributeLength(std::string_view value) noexcept {
+    std::size_t i = 0;
+    while (i < value.size() && kPlain.value[static_cast<unsigned char>(value[i])]) ++i;
+    return i;
+}
 
 std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint) {
     std::string out;

@@ -290,7 +290,9 @@ void frmDesigner::MoveFocus(Control control, bool byDesigner) {
 }
 
 bool frmDesigner::HasUnsavedChanges() const {
-    return Processes_ && !EqualsNoCase(Processes_->XML(), mSavedXML);
+    // mSavedXML is taken right after each load and save: without an edit
+    // since, the model still writes it.
+    return Processes_ && Processes_->EditedSinceLoadOrSave() && !Processes_->XmlEqualsNoCase(mSavedXML);
 }
 
 }  // namespace flowloom::designer

@@ -3,6 +3,7 @@
 #include "support/ReportError.h"
 #include "support/TextCompare.h"
 #include "model/Process.h"
+#include "model/xml/ElementCount.h"
 
 namespace flowloom {
 
@@ -39,6 +40,7 @@ void Activities::Dispose() {
 
 void Activities::LoadElement(const pugi::xml_node& node, const std::shared_ptr<flowloom::Process>& process) {
     std::shared_ptr<Activity> previous;
+    items_.Reserve(static_cast<std::size_t>(items_.Count()) + ElementCount(node));
     for (const pugi::xml_node& child : node.children()) {
         if (child.type() != pugi::node_element) continue;
         Guarded("Activities", "LoadElement", [&] {

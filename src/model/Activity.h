@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "model/ActivityKind.h"
 
 #include <pugixml.hpp>
@@ -28,7 +29,10 @@ public:
     void SetKey(std::string key) { key_ = std::move(key); }
 
     std::shared_ptr<Process> ParentProcess() const { return parent_.lock(); }
-    void SetParentProcess(const std::shared_ptr<Process>& process) { parent_ = process; }
+    void SetParentProcess(const std::shared_ptr<Process>& process) {
+        parent_ = process;
+        ModelRevision::Bump();
+    }
 
     const std::string& Description() const noexcept { return description_; }
     void SetDescription(std::string text) { description_ = std::move(text); }
@@ -50,7 +54,7 @@ protected:
 
 private:
     mutable std::string key_;  // made on first read
-    std::string description_;
+    TrackedString description_;
     std::weak_ptr<Process> parent_;
 };
 

@@ -37,6 +37,8 @@ void RenameOutputDocument(const std::shared_ptr<Process>& process, const std::st
 
 void AddDocumentNamed(const std::shared_ptr<Process>& process, const std::string& name) {
     if (name.empty() || !process || !process->Documents()) return;
+    // A name that exists is ignored by the collection anyway.
+    if (process->Documents()->Contains(name)) return;
     auto document = std::make_shared<Document>();
     document->name = name;
     process->Documents()->Add(document, name);

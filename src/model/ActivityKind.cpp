@@ -1,4 +1,5 @@
 #include "model/ActivityKind.h"
+#include "app/XmlDocument.h"
 
 #include "support/TextCompare.h"
 
@@ -14,7 +15,7 @@ std::string_view ActivityTypeName(ActivityKind kind) noexcept { return kTypeName
 
 std::optional<ActivityKind> ActivityKindOfName(std::string_view typeName) {
     for (ActivityKind kind : kActivityKinds)
-        if (EqualsNoCase(typeName, ActivityTypeName(kind))) return kind;
+        if (NameIs(typeName, ActivityTypeName(kind))) return kind;
     return std::nullopt;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "model/Activity.h"
 #include "model/Forward.h"
 
@@ -19,7 +20,10 @@ public:
     void SetDatasourceName(std::string value) { datasourceName_ = std::move(value); }
     // Never gives an object back, as for a MailMerge.
     std::shared_ptr<flowloom::Datasource> Datasource() const { return nullptr; }
-    void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) { datasource_ = std::move(datasource); }
+    void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) {
+        datasource_ = std::move(datasource);
+        ModelRevision::Bump();
+    }
     std::shared_ptr<flowloom::FieldValues> FieldValues() const;  // created on first read
     void SetFieldValues(std::shared_ptr<flowloom::FieldValues> values) { fieldValues_ = std::move(values); }
     bool HasFieldValues() const noexcept { return fieldValues_ != nullptr; }
@@ -32,11 +36,11 @@ public:
     void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
 
 private:
-    mutable std::string datasourceName_;  // falls back on the main datasource
+    mutable TrackedString datasourceName_;  // falls back on the main datasource
     std::shared_ptr<flowloom::Datasource> datasource_;
     mutable std::shared_ptr<flowloom::FieldValues> fieldValues_;
-    std::string database_;
-    std::string tablename_;
+    TrackedString database_;
+    TrackedString tablename_;
 };
 
 // "[name]": trimmed, with the brackets it lacks.

@@ -7,6 +7,7 @@
 
 #include "support/ReportError.h"
 #include "model/Process.h"
+#include "model/xml/ElementCount.h"
 #include "support/Prompts.h"
 
 namespace flowloom {
@@ -101,6 +102,7 @@ void Documents::Dispose() {
 }
 
 void Documents::LoadElement(const pugi::xml_node& node) {
+    items_.Reserve(static_cast<std::size_t>(items_.Count()) + ElementCount(node, "Document"));
     for (const pugi::xml_node& child : node.children("Document")) {
         auto document = std::make_shared<Document>();
         document->LoadElement(child);
@@ -139,6 +141,7 @@ void Datasources::Dispose() {
 }
 
 void Datasources::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+    items_.Reserve(static_cast<std::size_t>(items_.Count()) + ElementCount(node, "Datasource"));
     for (const pugi::xml_node& child : node.children("Datasource")) {
         Guarded("Datasources", "LoadElement", [&] {
             auto datasource = std::make_shared<Datasource>();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "model/FileActivity.h"
 
 #include <cstdint>
@@ -42,13 +43,13 @@ public:
     void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
 
 private:
-    bool showDocument_ = false;
-    std::string ghostscriptExecutable_;
+    Tracked<bool> showDocument_ = false;
+    TrackedString ghostscriptExecutable_;
     OverwriteMode overwrite_{1};
-    std::int32_t outputFileFormat_ = 0;
-    std::int32_t pdfConvertingMethod_ = 0;
-    mutable std::int32_t postscript2PDFConverter_ = 0;  // chosen on first read
-    std::string postscriptPrinter_;
+    Tracked<std::int32_t> outputFileFormat_ = 0;
+    Tracked<std::int32_t> pdfConvertingMethod_ = 0;
+    mutable Tracked<std::int32_t> postscript2PDFConverter_ = 0;  // chosen on first read
+    TrackedString postscriptPrinter_;
 };
 
 // Whether Adobe's distiller can be created here; never on this platform.

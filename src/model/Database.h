@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include <pugixml.hpp>
 
 #include <string>
@@ -9,9 +10,9 @@ namespace flowloom {
 // A database the file knows: a name, the path of the file and its type.
 class Database {
 public:
-    std::string name;
-    std::string Location;
-    std::string Type_;  // saved as Type
+    TrackedString name;
+    TrackedString Location;
+    TrackedString Type_;  // saved as Type
 
     void LoadElement(const pugi::xml_node& node);
 };

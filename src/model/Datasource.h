@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include <pugixml.hpp>
 
 #include <cstdint>
@@ -15,12 +16,12 @@ class Process;
 // registers itself with its process while it reads.
 class Datasource : public std::enable_shared_from_this<Datasource> {
 public:
-    std::string Type_;       // saved as Type
-    std::string Database;    // name of a Database
-    std::string ObjectName;
-    std::int32_t Records = 0;  // 0 current, 1 all, 2 selected
-    std::string SubFormFullName;  // saved as SubformFullName
-    std::string SaveXmlToFolder;
+    TrackedString Type_;       // saved as Type
+    TrackedString Database;    // name of a Database
+    TrackedString ObjectName;
+    Tracked<std::int32_t> Records = 0;  // 0 current, 1 all, 2 selected
+    TrackedString SubFormFullName;  // saved as SubformFullName
+    TrackedString SaveXmlToFolder;
 
     // Falls back on ObjectName on first read and keeps it.
     const std::string& name() const;
@@ -37,7 +38,7 @@ public:
     void Dispose();
 
 private:
-    mutable std::string name_;  // falls back on ObjectName on first read
+    mutable TrackedString name_;  // falls back on ObjectName on first read
     std::weak_ptr<Process> parent_;
 };
 

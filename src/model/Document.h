@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "app/TaggedValue.h"
 
 #include <pugixml.hpp>
@@ -14,7 +15,7 @@ namespace flowloom {
 // is persisted; the rest is carried for a run.
 class Document {
 public:
-    std::string name;
+    std::string name;  // renamed only through the collection (see RenameOutputDocument), which counts the edit
     std::string Template;
     std::string Contents;
     bool Show = false;

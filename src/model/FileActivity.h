@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "model/Activity.h"
 #include "model/FileTarget.h"
 
@@ -59,8 +60,8 @@ private:
     FileTarget target_;
     std::shared_ptr<Document> inputDocument_;
     std::shared_ptr<Document> outputDocument_;
-    std::string inputDocumentName_;
-    std::string outputDocumentName_;
+    TrackedString inputDocumentName_;
+    TrackedString outputDocumentName_;
 };
 
 }  // namespace flowloom

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "app/TaggedValue.h"
 
 #include <string>
@@ -32,12 +33,12 @@ public:
     void SetRawFullName(std::string value) { rawFullName_ = std::move(value); }
 
 private:
-    std::string folder_;
-    std::string file_;
-    TaggedValue fullName_;
-    std::string rawFolder_;
-    std::string rawFile_;
-    std::string rawFullName_;
+    TrackedString folder_;
+    TrackedString file_;
+    TrackedObject<TaggedValue> fullName_;
+    TrackedString rawFolder_;
+    TrackedString rawFile_;
+    TrackedString rawFullName_;
 };
 
 // The overwrite mode of a target file (0 "Yes", 1 "Confirm", 2 "No"), with
@@ -55,8 +56,8 @@ public:
     void ClearSet() noexcept { set_ = false; }
 
 private:
-    std::int32_t value_;
-    bool set_ = false;
+    Tracked<std::int32_t> value_;
+    Tracked<bool> set_ = false;
 };
 
 }  // namespace flowloom

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include <pugixml.hpp>
 
 #include <string>
@@ -9,7 +10,7 @@ namespace flowloom {
 // A group that may use a process; only its name is kept.
 class Group {
 public:
-    std::string name;
+    TrackedString name;
 
     // Takes the Name attribute; failures are ignored.
     void LoadElement(const pugi::xml_node& node);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include <memory>
 #include <string>
 #include <vector>
@@ -32,11 +33,11 @@ public:
     void SetFieldName(std::string name) { fieldName_ = std::move(name); }
 
 private:
-    std::string text_;
-    std::string separator_ = ";";
+    TrackedString text_;
+    TrackedString separator_ = ";";
     std::vector<std::string> values_;
     std::shared_ptr<flowloom::Datasource> datasource_;
-    std::string fieldName_;
+    TrackedString fieldName_;
 };
 
 }  // namespace flowloom

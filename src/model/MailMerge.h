@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "model/Activity.h"
 
 #include <cstdint>
@@ -34,7 +35,10 @@ public:
 
     // Never gives an object back: code that asks goes by DatasourceName.
     std::shared_ptr<flowloom::Datasource> Datasource() const { return nullptr; }
-    void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) { datasource_ = std::move(datasource); }
+    void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) {
+        datasource_ = std::move(datasource);
+        ModelRevision::Bump();
+    }
     // Falls back on the held datasource's name.
     const std::string& DatasourceName() const;
     void SetDatasourceName(std::string value) { datasourceName_ = std::move(value); }
@@ -58,18 +62,18 @@ public:
 
 private:
     std::unique_ptr<std::vector<std::string>> pictures_;
-    std::string iteration_;
-    std::string precededBy_;
-    std::string succeededBy_;
-    bool insertPagebreak_ = true;
-    std::int32_t mailMergeType_ = 0;
+    TrackedString iteration_;
+    TrackedString precededBy_;
+    TrackedString succeededBy_;
+    Tracked<bool> insertPagebreak_ = true;
+    Tracked<std::int32_t> mailMergeType_ = 0;
     std::shared_ptr<flowloom::Datasource> datasource_;
-    mutable std::string datasourceName_;  // falls back on the datasource's name
+    mutable TrackedString datasourceName_;  // falls back on the datasource's name
     std::shared_ptr<Document> outputDocument_;
-    std::string outputDocumentName_;
-    mutable std::string invokedApplication_;  // "Microsoft Word" on first read when empty
-    std::string template_;
-    bool showDocument_ = true;
+    TrackedString outputDocumentName_;
+    mutable TrackedString invokedApplication_;  // "Microsoft Word" on first read when empty
+    TrackedString template_;
+    Tracked<bool> showDocument_ = true;
 };
 
 }  // namespace flowloom

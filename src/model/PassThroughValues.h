@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/TaggedValue.h"
+#include "app/Tracked.h"
 
 #include <array>
 #include <cstddef>
@@ -26,6 +27,7 @@ public:
     }
     void Set(Arg arg, TaggedValue value) {
         if (value.IsObject()) return;
+        ModelRevision::Bump();
         for (auto& [which, stored] : values_)
             if (which == arg) {
                 stored = std::move(value);
@@ -45,11 +47,11 @@ int FindArgument(const std::array<const char*, N>& names, std::string_view name)
 
 }  // namespace flowloom
 
-#include "support/TextCompare.h"
+#include "app/XmlDocument.h"
 
 template <std::size_t N>
 int flowloom::FindArgument(const std::array<const char*, N>& names, std::string_view name) {
     for (std::size_t i = 0; i < N; ++i)
-        if (EqualsNoCase(names[i], name)) return static_cast<int>(i);
+        if (NameIs(name, names[i])) return static_cast<int>(i);
     return -1;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "model/FileActivity.h"
 #include "model/PassThroughValues.h"
 
@@ -44,7 +45,7 @@ public:
     void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
 
 private:
-    std::string printer_;
+    TrackedString printer_;
     PassThroughValues<PrintOutArg, static_cast<std::size_t>(PrintOutArg::Count)> arguments_;
 };
 

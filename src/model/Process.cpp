@@ -20,7 +20,7 @@ std::optional<std::int32_t> ReadWordList(std::string_view text, const char* word
     if (auto number = vb::ToNumber(trimmed)) return vb::CLng(*number);
     const auto list = vb::Split(words, ";");
     for (std::size_t i = 0; i < list.size(); ++i)
-        if (EqualsNoCase(trimmed, list[i])) return static_cast<std::int32_t>(i);
+        if (NameIs(trimmed, list[i])) return static_cast<std::int32_t>(i);
     return std::nullopt;
 }
 
@@ -114,12 +114,13 @@ void Process::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Proc
     // activities need the documents, a main datasource needs the datasources.
     if (pugi::xml_node child = node.child("Datasources")) {
         Guarded("Process", "LoadElement", [&] {
-            datasources_ = std::make_shared<flowloom::Datasources>();
+            // A collection that holds nothing yet is as good as a new one.
+            if (!datasources_ || datasources_->Count() > 0) datasources_ = std::make_shared<flowloom::Datasources>();
             datasources_->LoadElement(child, self);
         });
     }
     if (pugi::xml_node child = node.child("Documents")) {
-        documents_ = std::make_shared<flowloom::Documents>();
+        if (!documents_ || documents_->Count() > 0) documents_ = std::make_shared<flowloom::Documents>();
         documents_->LoadElement(child);
     }
     if (pugi::xml_node child = node.child("Activities")) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "model/Forward.h"
 
 #include <pugixml.hpp>
@@ -42,7 +43,10 @@ public:
     void SetName(std::string name) { name_ = std::move(name); }
 
     std::shared_ptr<Processes> Parent() const { return parent_.lock(); }
-    void SetParent(const std::shared_ptr<Processes>& parent) { parent_ = parent; }
+    void SetParent(const std::shared_ptr<Processes>& parent) {
+        parent_ = parent;
+        ModelRevision::Bump();
+    }
 
     const std::string& MainDataSourceName() const noexcept { return mainDataSourceName_; }
     void SetMainDataSourceName(std::string name) { mainDataSourceName_ = std::move(name); }
@@ -73,7 +77,10 @@ public:
     std::shared_ptr<flowloom::Groups> Groups() const;
     bool HasGroups() const noexcept { return groups_ != nullptr; }
     std::shared_ptr<flowloom::FieldValues> FieldValues() const;
-    void SetFieldValues(std::shared_ptr<flowloom::FieldValues> values) { fieldValues_ = std::move(values); }
+    void SetFieldValues(std::shared_ptr<flowloom::FieldValues> values) {
+        fieldValues_ = std::move(values);
+        ModelRevision::Bump();
+    }
     bool HasFieldValues() const noexcept { return fieldValues_ != nullptr; }
 
     // The live documents of invoked applications of a run, and the documents
@@ -102,16 +109,16 @@ private:
     void ReadGroups(const pugi::xml_node& node);
     void ReadFieldValues(const pugi::xml_node& node);
 
-    std::string name_;
+    TrackedString name_;
     std::weak_ptr<Processes> parent_;
-    std::string mainDataSourceName_;
+    TrackedString mainDataSourceName_;
     mutable std::shared_ptr<Datasource> mainDataSource_;  // cached on first read
-    std::int32_t processRecords_ = 0;
-    bool abortOnError_ = DefaultErrorSetting;
-    bool onErrorNotifyUser_ = DefaultErrorSetting;
-    mutable std::string logDatasourceName_;  // falls back on the main datasource's name
-    bool showProgressBar_ = true;
-    std::int32_t confirmIfMoreThan_ = 100;
+    Tracked<std::int32_t> processRecords_ = 0;
+    Tracked<bool> abortOnError_ = DefaultErrorSetting;
+    Tracked<bool> onErrorNotifyUser_ = DefaultErrorSetting;
+    mutable TrackedString logDatasourceName_;  // falls back on the main datasource's name
+    Tracked<bool> showProgressBar_ = true;
+    Tracked<std::int32_t> confirmIfMoreThan_ = 100;
     std::shared_ptr<flowloom::Activities> activities_;
     std::shared_ptr<flowloom::Datasources> datasources_;
     std::shared_ptr<flowloom::Documents> documents_;

@@ -1,5 +1,6 @@
 // How a process finds the activity that produces a document.
 #include "model/Process.h"
+#include "app/XmlDocument.h"
 
 #include "support/TextCompare.h"
 #include "model/Activities.h"
@@ -13,10 +14,10 @@ namespace {
 std::int32_t KindOf(const Activity& producer, bool wide) {
     if (const auto* mailMerge = ActivityAs<MailMerge>(&producer)) {
         const std::string& application = mailMerge->InvokedApplication();
-        if (EqualsNoCase(application, "Microsoft Word")) return dockind::Word;
-        if (EqualsNoCase(application, "Microsoft Excel")) return dockind::Excel;
-        if (wide && EqualsNoCase(application, "HTML")) return dockind::Html;
-        if (wide && EqualsNoCase(application, "Text")) return dockind::Text;
+        if (NameIs(application, "Microsoft Word")) return dockind::Word;
+        if (NameIs(application, "Microsoft Excel")) return dockind::Excel;
+        if (wide && NameIs(application, "HTML")) return dockind::Html;
+        if (wide && NameIs(application, "Text")) return dockind::Text;
         return dockind::Other;
     }
     if (wide && producer.Kind() == ActivityKind::SendMail) return dockind::MailBody;
@@ -31,7 +32,7 @@ std::pair<std::int32_t, std::shared_ptr<Activity>> Process::ActivityForDocument(
     for (const auto& activity : *activities_) {
         try {
             std::optional<std::string> produced = activity->ProducedDocumentName();
-            if (!produced || produced->empty() || !EqualsNoCase(*produced, name)) continue;
+            if (!produced || produced->empty() || !NameIs(*produced, name)) continue;
             return {KindOf(*activity, wide), activity};
         } catch (...) {
             // failures along the way are ignored

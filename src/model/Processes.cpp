@@ -7,8 +7,11 @@
 #include "model/Groups.h"
 #include "model/Process.h"
 #include "model/xml/CProcessesXMLDoc.h"
+#include "model/xml/PrefixComparison.h"
 #include "options/Options.h"
 #include "support/Prompts.h"
+
+#include <algorithm>
 
 namespace flowloom {
 
@@ -36,7 +39,7 @@ const std::string& Processes::SourceXML() const {
     return sourceXml_;
 }
 
-bool Processes::ReadRoot(const pugi::xml_node& root) {
+bool Processes::ReadRoot(const pugi::xml_node& root, const XmlOutline& outline) {
     // A root of another name is no "Processes" node at all: reading its
     // attributes fails like a call on nothing.
     if (!root) RaiseStandardError(vberr::ObjectRequired);
@@ -50,29 +53,47 @@ bool Processes::ReadRoot(const pugi::xml_node& root) {
         errorString_ = "The top level node is not 'Processes'";
         return false;
     }
-    return ReadContents(root);
+    return ReadContents(outline);
 }
 
-bool Processes::ReadContents(const pugi::xml_node& root) {
-    if (pugi::xml_node node = root.child("Groups")) {
+bool Processes::ReadContents(const XmlOutline& outline) {
+    // Only one child's tree exists at a time: a large file is never held
+    // as a whole tree besides its model.
+    pugi::xml_document fragment;
+    const auto parsed = [&](const XmlOutline::Child& child) {
+        pugi::xml_node node = ParseChild(child, fragment);
+        if (!node) RaiseStandardError(vberr::ObjectRequired);  // the check let it pass, so it parses
+        return node;
+    };
+    // The first child of a name, as the tree's child() would find it.
+    const auto first = [&](std::string_view name) -> const XmlOutline::Child* {
+        for (const auto& child : outline.children)
+            if (child.name == name) return &child;
+        return nullptr;
+    };
+    if (const auto* child = first("Groups")) {
         auto groups = std::make_shared<flowloom::Groups>();
-        groups->LoadElement(node);
+        groups->LoadElement(parsed(*child));
         groups_ = groups;
     }
     auto self = shared_from_this();
-    for (const pugi::xml_node& node : root.children("Process")) {
+    processes_.Reserve(static_cast<std::size_t>(processes_.Count()) +
+                       static_cast<std::size_t>(std::count_if(outline.children.begin(), outline.children.end(),
+                                                              [](const auto& c) { return c.name == "Process"; })));
+    for (const auto& child : outline.children) {
+        if (child.name != "Process") continue;
         auto process = Process::Create();
-        process->LoadElement(node, self);
+        process->LoadElement(parsed(child), self);
         Add(process);
     }
-    if (pugi::xml_node node = root.child("Databases")) {
+    if (const auto* child = first("Databases")) {
         auto databases = std::make_shared<flowloom::Databases>();
-        databases->LoadElement(node);
+        databases->LoadElement(parsed(*child));
         databases_ = databases;
     }
-    if (pugi::xml_node node = root.child("Options")) {
+    if (const auto* child = first("Options")) {
         auto options = std::make_shared<flowloom::Options>();
-        options->LoadElement(node);
+        options->LoadElement(parsed(*child));
         options_ = options;
     }
     return true;
@@ -80,14 +101,37 @@ bool Processes::ReadContents(const pugi::xml_node& root) {
 
 std::string Processes::XML() {
     try {
-        std::unique_ptr<XmlDocument> document = CProcessesXMLDoc().Generate(*this);
-        if (!document) return {};
-        std::string text = document->XML(lastXmlSize_ + lastXmlSize_ / 16);
-        lastXmlSize_ = text.size();
-        return text;
+        return GenerateXml();
     } catch (...) {
         ReportPendingError("Processes", "XML");
         return {};
+    }
+}
+
+std::string Processes::GenerateXml(const std::function<bool(std::string_view)>& consumer) {
+    // Writing fills the values that fall back on others on first read (a
+    // log datasource, a datasource's name), which counts as edits but
+    // changes nothing written: a model unedited before stays so.
+    const bool unedited = !EditedSinceLoadOrSave();
+    std::string text = ProcessesFileXml(*this, lastXmlSize_ + lastXmlSize_ / 16, consumer);
+    if (!consumer) lastXmlSize_ = text.size();
+    if (unedited) savedRevision_ = ModelRevision::Current();
+    return text;
+}
+
+bool Processes::XmlEqualsNoCase(std::string_view text) {
+    try {
+        PrefixComparison compare(text);
+        GenerateXml([&](std::string_view piece) { return compare.Next(piece); });
+        switch (compare.Finish()) {
+        case PrefixComparison::Equal: return true;
+        case PrefixComparison::Different: return false;
+        case PrefixComparison::Undecided: break;
+        }
+        return EqualsNoCase(GenerateXml(), text);
+    } catch (...) {
+        ReportPendingError("Processes", "XML");
+        return EqualsNoCase(std::string(), text);
     }
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "model/Forward.h"
 #include "app/XmlDocument.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -32,12 +34,21 @@ public:
     void SetVersion(std::int32_t version) { version_ = version; }
 
     std::shared_ptr<flowloom::Databases> Databases() const { return databases_; }
-    void SetDatabases(std::shared_ptr<flowloom::Databases> databases) { databases_ = std::move(databases); }
+    void SetDatabases(std::shared_ptr<flowloom::Databases> databases) {
+        databases_ = std::move(databases);
+        ModelRevision::Bump();
+    }
     std::shared_ptr<flowloom::Groups> Groups() const;  // created on first read
-    void SetGroups(std::shared_ptr<flowloom::Groups> groups) { groups_ = std::move(groups); }
+    void SetGroups(std::shared_ptr<flowloom::Groups> groups) {
+        groups_ = std::move(groups);
+        ModelRevision::Bump();
+    }
     bool HasGroups() const noexcept { return groups_ != nullptr; }
     std::shared_ptr<flowloom::Options> Options() const { return options_; }
-    void SetOptions(std::shared_ptr<flowloom::Options> options) { options_ = std::move(options); }
+    void SetOptions(std::shared_ptr<flowloom::Options> options) {
+        options_ = std::move(options);
+        ModelRevision::Bump();
+    }
 
     // The text of the document as it was loaded.
     const std::string& SourceXML() const;
@@ -73,6 +84,15 @@ public:
     // The serialised document as Save would write it.
     std::string XML();
 
+    // Whether the model may have changed since the last Load or successful
+    // Save (or since it was made): every edit of a model object counts, also
+    // of objects outside this file, so "false" is certain and "true" a maybe.
+    bool EditedSinceLoadOrSave() const noexcept { return ModelRevision::Current() != savedRevision_; }
+    // Whether XML() equals `text` without regard to case (as EqualsNoCase);
+    // the text is made and compared piece by piece and the comparison stops
+    // at the first difference.
+    bool XmlEqualsNoCase(std::string_view text);
+
     // Adds under the process's name; a name that exists gives the message
     // "Process <name> already exists." and nothing is added. Whether it was added.
     bool Add(const std::shared_ptr<Process>& process, const CollectionPosition& before = {},
@@ -96,12 +116,15 @@ public:
     bool Disposed() const noexcept { return disposed_; }
 
 private:
-    void CheckLoadedDocument(XmlDocument& document);
-    bool ReadRoot(const pugi::xml_node& root);
-    bool ReadContents(const pugi::xml_node& root);
+    void CheckLoadedDocument(XmlDocument& document, const XmlOutline& outline);
+    bool ReadRoot(const pugi::xml_node& root, const XmlOutline& outline);
+    // The root's children, parsed and read one at a time.
+    bool ReadContents(const XmlOutline& outline);
     void RewriteLoadedFile(bool replacesUnloaded);
     SaveOutcome SaveWith(const std::string& fileName, BackupRule rule);
-    SaveOutcome WriteFile(const std::string& target, const XmlDocument& document, BackupRule rule);
+    SaveOutcome WriteFile(const std::string& target, const std::string& text, BackupRule rule);
+    // The text of XML(); with a consumer, in pieces (see ProcessesFileXml).
+    std::string GenerateXml(const std::function<bool(std::string_view)>& consumer = {});
 
     KeyedCollection<Process> processes_;
     // The text of the last load: the parsed document is not kept, since a
@@ -119,8 +142,10 @@ private:
     std::shared_ptr<flowloom::Databases> databases_;
     std::shared_ptr<flowloom::Options> options_;
     mutable std::shared_ptr<flowloom::Groups> groups_;
+    // The edit count at the last Load or Save (see EditedSinceLoadOrSave).
+    std::uint64_t savedRevision_ = ModelRevision::Current();
     bool disposed_ = false;
-    std::int32_t version_ = 0;
+    Tracked<std::int32_t> version_ = 0;
 };
 
 // The default name of the processes file.

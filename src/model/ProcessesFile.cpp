@@ -38,7 +38,12 @@ bool RegularFileExists(const std::string& path) {
 }
 
 // "FILE.NNNNNNNNN.bak": the last nine digits of the time as a serial day.
-std::string BackupSuffix() { return "." + vb::Right(vb::SerialNowText(), 9) + ".bak"; }
+std::string BackupSuffix() {
+    std::string suffix = ".";
+    suffix += vb::Right(vb::SerialNowText(), 9);
+    suffix += ".bak";
+    return suffix;
+}
 
 }  // namespace
 
@@ -71,8 +76,10 @@ void Processes::Load(const std::string& fileName, std::shared_ptr<void> applicat
             loadedText_ = std::move(*bytes);
             lastXmlSize_ = loadedText_.size();
             XmlDocument document;
-            document.LoadXml(loadedText_);
-            CheckLoadedDocument(document);
+            XmlOutline outline;
+            std::string converted;
+            document.LoadOutline(loadedText_, converted, outline);
+            CheckLoadedDocument(document, outline);
         }
         // Old files are converted and written back at once; a new one is created.
         if (version_ != 1) {
@@ -82,6 +89,8 @@ void Processes::Load(const std::string& fileName, std::shared_ptr<void> applicat
     } catch (...) {
         ReportPendingError("Processes", "Load");
     }
+    // Whatever the Load made of the file, from here on only edits change it.
+    savedRevision_ = ModelRevision::Current();
 }
 
 // The save of the version step. A file that did not load as a processes file
@@ -96,7 +105,7 @@ void Processes::RewriteLoadedFile(bool replacesUnloaded) {
     loadRewrite_.backup = outcome.backup.string();
 }
 
-void Processes::CheckLoadedDocument(XmlDocument& document) {
+void Processes::CheckLoadedDocument(XmlDocument& document, const XmlOutline& outline) {
     try {
         if (!document.DocumentElement()) {
             const XmlParseError& error = document.ParseError();
@@ -108,7 +117,7 @@ void Processes::CheckLoadedDocument(XmlDocument& document) {
         // A root of another name fails in ReadRoot, as a call on nothing.
         if (std::string_view(document.DocumentElement().name()) != "Processes")
             notLoadedReason_ = "The top level node is not 'Processes'";
-        complete_ = ReadRoot(document.Native().child("Processes")) ? Loaded : Failed;
+        complete_ = ReadRoot(document.Native().child("Processes"), outline) ? Loaded : Failed;
     } catch (...) {
         if (notLoadedReason_.empty()) notLoadedReason_ = PendingError().Description();
         ReportPendingError("Processes", "CheckLoadedDocument");
@@ -119,8 +128,7 @@ bool Processes::Save(const std::string& fileName) { return SaveWith(fileName, Ba
 
 SaveOutcome Processes::SaveWith(const std::string& fileName, BackupRule rule) {
     try {
-        std::unique_ptr<XmlDocument> document = CProcessesXMLDoc().Generate(*this);
-        if (!document) RaiseStandardError(vberr::ObjectRequired);
+        const std::string text = GenerateXml();
         const std::string target = fileName.empty() ? processesFile_ : fileName;
         const fs::path folder = fs::path(target).parent_path();
         std::error_code ec;
@@ -128,16 +136,16 @@ SaveOutcome Processes::SaveWith(const std::string& fileName, BackupRule rule) {
             MsgBox("The folder '" + folder.string() + "' does not exist.", msgbox::Exclamation);
             return {};
         }
-        return WriteFile(target, *document, rule);
+        SaveOutcome outcome = WriteFile(target, text, rule);
+        savedRevision_ = ModelRevision::Current();  // the file now holds the model
+        return outcome;
     } catch (...) {
         ReportPendingError("Processes", "Processes.Save");
         return {};
     }
 }
 
-SaveOutcome Processes::WriteFile(const std::string& target, const XmlDocument& document, BackupRule rule) {
-    const std::string text = document.XML(lastXmlSize_);
-    lastXmlSize_ = text.size();
+SaveOutcome Processes::WriteFile(const std::string& target, const std::string& text, BackupRule rule) {
     // A new file shorter than the old one keeps its backup: the safety net
     // against a truncated save.
     SaveOutcome outcome = SaveFileSafely(target, text, BackupSuffix(), rule);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "model/Activity.h"
 
 #include <memory>
@@ -29,9 +30,9 @@ public:
 
 private:
     std::shared_ptr<Document> inputDocument_;
-    std::string inputDocumentName_;
-    std::string address_;
-    std::string subject_;
+    TrackedString inputDocumentName_;
+    TrackedString address_;
+    TrackedString subject_;
 };
 
 }  // namespace flowloom

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Tracked.h"
 #include "app/CDictionary.h"
 #include "app/KeyedCollection.h"
 #include "model/FileActivity.h"
@@ -31,14 +32,14 @@ public:
     std::int32_t SendMethod() const noexcept { return sendMethod_; }
     void SetSendMethod(std::int32_t value) { sendMethod_ = value; }
 
-    std::string SMTPServer, SendUsername, SendPassword, SMTPServerPort, From, Charset;
+    TrackedString SMTPServer, SendUsername, SendPassword, SMTPServerPort, From, Charset;
 
     std::shared_ptr<List> To_() const { return to_; }
-    void SetTo_(std::shared_ptr<List> list) { to_ = std::move(list); }
+    void SetTo_(std::shared_ptr<List> list) { SetList(to_, std::move(list)); }
     std::shared_ptr<List> CC() const { return cc_; }
-    void SetCC(std::shared_ptr<List> list) { cc_ = std::move(list); }
+    void SetCC(std::shared_ptr<List> list) { SetList(cc_, std::move(list)); }
     std::shared_ptr<List> BCC() const { return bcc_; }
-    void SetBCC(std::shared_ptr<List> list) { bcc_ = std::move(list); }
+    void SetBCC(std::shared_ptr<List> list) { SetList(bcc_, std::move(list)); }
     // Fixed recipient texts that go before the lists.
     void SetRecipientsTo(std::string value) { recipientsTo_ = std::move(value); }
     void SetRecipientsCC(std::string value) { recipientsCC_ = std::move(value); }
@@ -56,19 +57,27 @@ public:
     // Adds a file path or a placeholder; a name that exists is reported.
     void AddAttachment(const std::string& name);
     std::shared_ptr<flowloom::Attachments> Attachments() const { return attachments_; }
-    void ClearAttachments() { attachments_ = std::make_shared<flowloom::Attachments>(); }
+    void ClearAttachments() {
+        attachments_ = std::make_shared<flowloom::Attachments>();
+        ModelRevision::Bump();
+    }
 
     void Dispose() override;
     void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
 
 private:
-    mutable std::string datasourceName_;  // falls back on the main datasource
-    std::int32_t mailApplication_ = 0;
-    std::int32_t sendMethod_ = 0;
+    static void SetList(std::shared_ptr<List>& member, std::shared_ptr<List> list) {
+        member = std::move(list);
+        ModelRevision::Bump();
+    }
+
+    mutable TrackedString datasourceName_;  // falls back on the main datasource
+    Tracked<std::int32_t> mailApplication_ = 0;
+    Tracked<std::int32_t> sendMethod_ = 0;
     std::shared_ptr<List> to_, cc_, bcc_;
-    std::string recipientsTo_, recipientsCC_, recipientsBCC_;
-    std::string subject_;
-    std::string body_;
+    TrackedString recipientsTo_, recipientsCC_, recipientsBCC_;
+    TrackedString subject_;
+    TrackedString body_;
     std::shared_ptr<flowloom::Attachments> attachments_;
 };
 

@@ -52,6 +52,7 @@ void List::SetValueList(std::string text) {
 
 void List::SetValues(std::vector<std::string> values) {
     values_ = std::move(values);
+    ModelRevision::Bump();
     if (!values_.empty()) {
         text_.clear();
         datasource_.reset();
@@ -60,6 +61,7 @@ void List::SetValues(std::vector<std::string> values) {
 
 void List::SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) {
     datasource_ = std::move(datasource);
+    ModelRevision::Bump();
     if (datasource_) {
         text_.clear();
         values_.clear();

@@ -1,9 +1,12 @@
 // The keyed collection the model's collections are built on.
 #include "app/KeyedCollection.h"
+#include "support/TextCompare.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace flowloom {
 namespace {
@@ -55,6 +58,56 @@ TEST(KeyedCollection, UnknownKeyIs5BadIndexIs9AndRemoveFreesTheKey) {
     EXPECT_EQ(c.Count(), 0);
     c.Add(Make("2"), "k");
     EXPECT_EQ(c.Item(1)->name, "2");
+}
+
+// A large collection keeps a hash index; inserts and removes anywhere must
+// leave every key finding its own item at its own place.
+TEST(KeyedCollection, LargeCollectionsStayRightUnderInsertsAndRemovesAnywhere) {
+    KeyedCollection<Item> c;
+    std::vector<std::string> model;  // the expected order of names
+    for (int i = 0; i < 100; ++i) {
+        const std::string name = "k" + std::to_string(i);
+        if (i % 3 == 0 && !model.empty()) {
+            c.Add(Make(name), name, CollectionPosition{1});
+            model.insert(model.begin(), name);
+        } else if (i % 3 == 1 && model.size() > 2) {
+            c.Add(Make(name), name, {}, CollectionPosition{model[1]});
+            model.insert(model.begin() + 2, name);
+        } else {
+            c.Add(Make(name), name);
+            model.push_back(name);
+        }
+        if (i % 7 == 6) {
+            c.Remove(std::string_view(ToUpper(model[model.size() / 2])));
+            model.erase(model.begin() + static_cast<std::ptrdiff_t>(model.size() / 2));
+        }
+    }
+    ASSERT_EQ(c.Count(), static_cast<std::int32_t>(model.size()));
+    for (std::size_t i = 0; i < model.size(); ++i) {
+        EXPECT_EQ(c.Item(static_cast<std::int32_t>(i + 1))->name, model[i]);
+        EXPECT_EQ(c.Item(model[i])->name, model[i]);
+        EXPECT_EQ(c.ItemAt(CollectionPosition{ToUpper(model[i])})->name, model[i]);
+    }
+    EXPECT_FALSE(c.Contains("k6"));  // removed
+    EXPECT_EQ(ErrorNumberOf([&] { c.Add(Make("again"), model.front()); }), 457);
+    c.RemoveAt(CollectionPosition{model.back()});
+    EXPECT_FALSE(c.Find(model.back()));
+    c.Add(Make("back"), model.back());
+    EXPECT_EQ(c.Item(c.Count())->name, "back");
+}
+
+TEST(KeyedCollection, EveryChangeCountsAsAnEditAndReadsDoNot) {
+    KeyedCollection<Item> c;
+    auto revision = ModelRevision::Current();
+    c.Add(Make("a"), "a");
+    EXPECT_NE(ModelRevision::Current(), revision);
+    revision = ModelRevision::Current();
+    (void)c.Find("a");
+    (void)c.Item(1);
+    EXPECT_FALSE(c.TryAdd(Make("b"), "A"));
+    EXPECT_EQ(ModelRevision::Current(), revision);
+    c.Remove(1);
+    EXPECT_NE(ModelRevision::Current(), revision);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The XML layer reads only what a conformant parser reads, and writes only
 // what it reads; libxml2 is the referee of both.
 #include "app/XmlDocument.h"
+#include "support/TextCompare.h"
 #include "testsupport/XmlReferee.h"
 
 #include <gtest/gtest.h>
@@ -19,8 +20,18 @@ struct Case {
 
 std::string Serialized(const pugi::xml_node& node) { return SerializeNode(node); }
 
+// Many attributes are checked for duplicates by sorting them.
+std::string ManyAttributes(const std::string& last) {
+    std::string tag = "<a";
+    for (int i = 0; i < 40; ++i) tag += " a" + std::to_string(i) + "=\"1\"";
+    return tag + " " + last + "=\"2\"/>";
+}
+
 TEST(XmlReader, RefusesWhatAConformantParserRefuses) {
+    const std::string manyWithDuplicate = ManyAttributes("a17");
     const std::vector<Case> cases = {
+        {"a duplicate among many attributes", manyWithDuplicate},
+        {"a default namespace of xml", "<a xmlns=\"http://www.w3.org/XML/1998/namespace\"/>"},
         {"a byte that is no UTF-8", "<a v=\"\xFF\"/>"},
         {"an overlong form", "<a v=\"\xC0\xBC\"/>"},
         {"a surrogate in UTF-8", "<a>\xED\xA0\x80</a>"},
@@ -188,3 +199,80 @@ TEST(XmlLayer, AnyAttributeValueComesBackOrIsMadeWellFormed) {
 
 }  // namespace
 }  // namespace flowloom::test
+
+namespace flowloom {
+namespace {
+
+// The readers' name test: without regard to case, also beyond ASCII.
+TEST(XmlNames, NameIsComparesWithoutRegardToCaseAndStopsAtTheFirstDifference) {
+    pugi::xml_document document;
+    ASSERT_TRUE(document.load_string("<r Name='1' NAMES='2' nam='3' \xE2\x84\xAA" "ey='4' N\xC3\xA4me='5' a_='6'/>"));
+    std::vector<pugi::xml_attribute> a(document.first_child().attributes_begin(), document.first_child().attributes_end());
+    ASSERT_EQ(a.size(), 6u);
+    EXPECT_TRUE(NameIs(a[0], "name"));
+    EXPECT_TRUE(NameIs(a[0], "NAME"));
+    EXPECT_FALSE(NameIs(a[1], "Name"));   // longer
+    EXPECT_FALSE(NameIs(a[2], "Name"));   // shorter
+    EXPECT_TRUE(NameIs(a[3], "KEY"));     // the Kelvin sign folds to k
+    EXPECT_TRUE(NameIs(a[4], "n\xC3\xA4me"));
+    EXPECT_FALSE(NameIs(a[4], "Name"));
+    EXPECT_FALSE(NameIs(a[5], "a\x7F"));  // no letters: _ and DEL are no case pair
+    EXPECT_TRUE(NameIs(document.first_child(), "R"));
+    // Texts that are no node names give what EqualsNoCase gives.
+    using namespace std::string_view_literals;
+    for (const auto& [text, name] : std::vector<std::pair<std::string_view, std::string_view>>{
+             {"ab"sv, "AB"sv}, {"ab"sv, "ab\0"sv}, {"ab\0"sv, "ab"sv}, {"a\0b"sv, "a\0B"sv}, {"Stra\xC3\x9F" "e"sv, "STRASSE"sv},
+             {""sv, ""sv}, {""sv, "a"sv}, {"abc"sv, "ab"sv}, {"\xFF"sv, "\xFF"sv}, {"ab\xC3\x84"sv, "AB\xC3\xA4"sv}})
+        EXPECT_EQ(NameIs(text, name), EqualsNoCase(text, name)) << text << " / " << name;
+}
+
+}  // namespace
+}  // namespace flowloom
+
+namespace flowloom {
+namespace {
+
+// The outline hands a reader the root's start tag and each child of the root
+// exactly as it stands, whatever comes between them.
+TEST(XmlOutline, TheRootsChildrenComeAsTheirOwnTextWithTheirNames) {
+    const std::string text =
+        "<?xml version=\"1.0\"?><!-- before --><R a=\"x&gt;y\" b='>'>\r\n text <A/><!-- c --><?pi x?>"
+        "<B k=\"1\"><B><A/></B>&amp;</B><![CDATA[<C/>]]><p:C xmlns:p=\"urn:p\">t</p:C>\n<A\r\n/></R><!-- after -->";
+    XmlOutline outline;
+    ASSERT_FALSE(CheckXmlDocument(text, outline));
+    EXPECT_EQ(outline.rootName, "R");
+    EXPECT_EQ(outline.rootStartTag, "<R a=\"x&gt;y\" b='>'>");
+    std::vector<std::pair<std::string, std::string>> children;
+    for (const auto& child : outline.children) children.emplace_back(child.name, child.text);
+    const std::vector<std::pair<std::string, std::string>> expected = {
+        {"A", "<A/>"}, {"B", "<B k=\"1\"><B><A/></B>&amp;</B>"}, {"p:C", "<p:C xmlns:p=\"urn:p\">t</p:C>"}, {"A", "<A\r\n/>"}};
+    EXPECT_EQ(children, expected);
+
+    // An empty root has no children; a broken document no outline.
+    ASSERT_FALSE(CheckXmlDocument("<R/>", outline));
+    EXPECT_EQ(outline.rootStartTag, "<R/>");
+    EXPECT_TRUE(outline.children.empty());
+    EXPECT_TRUE(CheckXmlDocument("<R><A></R>", outline));
+    EXPECT_TRUE(outline.children.empty());
+}
+
+TEST(XmlOutline, LoadOutlineKeepsTheRootsAttributesAndChildrenParseAlone) {
+    XmlDocument document;
+    XmlOutline outline;
+    std::string storage;
+    // UTF-16 text is converted first; the outline points into the conversion.
+    static const char raw[] = "\xFF\xFE<\0R\0 \0v\0=\0\"\0""1\0\"\0>\0<\0A\0 \0n\0=\0\"\0\xE4\0\"\0/\0>\0<\0/\0R\0>\0";
+    const std::string utf16(raw, sizeof raw - 1);
+    ASSERT_TRUE(document.LoadOutline(utf16, storage, outline));
+    EXPECT_STREQ(document.DocumentElement().attribute("v").value(), "1");
+    EXPECT_FALSE(document.DocumentElement().first_child());
+    ASSERT_EQ(outline.children.size(), 1u);
+    pugi::xml_document fragment;
+    const pugi::xml_node child = ParseChild(outline.children[0], fragment);
+    EXPECT_STREQ(child.attribute("n").value(), "\xC3\xA4");
+    EXPECT_FALSE(document.LoadOutline("<R><A></R>", storage, outline));
+    EXPECT_EQ(document.ParseError().line, 1);
+}
+
+}  // namespace
+}  // namespace flowloom

@@ -2,6 +2,9 @@
 #include "ModelFixture.h"
 #include "testsupport/ScopedLocale.h"
 
+#include "model/Database.h"
+#include "model/Databases.h"
+#include "model/Groups.h"
 #include "model/Process.h"
 
 namespace flowloom::test {
@@ -61,6 +64,34 @@ TEST_F(RoundTrip, NumbersKeepTheCNotationUnderACommaLocale) {
     // "0.6" is read as 0.6 and rounds to version 1, so the file is not converted.
     auto processes = LoadText(R"(<?xml version="1.0" encoding="UTF-8"?><Processes Version="0.6"/>)");
     EXPECT_EQ(processes->Version(), 1);
+}
+
+}  // namespace
+}  // namespace flowloom::test
+
+namespace flowloom::test {
+namespace {
+
+// Loading reads the root's children one at a time: what stands between them
+// and children the reader does not know change nothing, and of Groups,
+// Databases and Options the first one counts, wherever it stands.
+TEST_F(RoundTrip, TheRootsChildrenAreReadAsAWholeTreeWouldBeRead) {
+    const std::string text = Document(
+        "\r\n<!-- a comment --><Databases><Database Name=\"D1\"/></Databases>"
+        "<Other><Process Name=\"not read\"/></Other>"
+        "<Process Name=\"A &amp; B\" ProcessRecords=\"All\"><Groups><Group Name=\"G\"/><Group Name=\"H\"/></Groups></Process>"
+        "<?pi between?><Groups><Group Name=\"G\"/></Groups><Groups><Group Name=\"H\"/></Groups>"
+        "<Process Name=\"Second\"/><Databases><Database Name=\"D2\"/></Databases>");
+    auto processes = LoadText(text);
+    ASSERT_EQ(processes->Complete(), Processes::Loaded);
+    ASSERT_EQ(processes->Count(), 2);
+    EXPECT_EQ(processes->Item(CollectionPosition{1})->name(), "A & B");
+    EXPECT_EQ(processes->Item(CollectionPosition{2})->name(), "Second");
+    ASSERT_EQ(processes->Groups()->Count(), 1);
+    // Only the group the file defines stays with the process.
+    EXPECT_EQ(processes->Item(CollectionPosition{1})->Groups()->Count(), 1);
+    ASSERT_EQ(processes->Databases()->Count(), 1);
+    EXPECT_EQ((*processes->Databases()->begin())->name, "D1");
 }
 
 }  // namespace

@@ -4,19 +4,25 @@
 
 namespace flowloom {
 
-pugi::xml_node CProcessesXMLDoc::ActivityFragment(const Activity& activity, pugi::xml_node parent) {
+void CProcessesXMLDoc::WriteActivity(const Activity& activity, XmlSink& out) {
     struct Fragment {
         CProcessesXMLDoc& writer;
-        pugi::xml_node parent;
-        pugi::xml_node operator()(const MailMerge& a) { return writer.MailMergeFragment(a, parent); }
-        pugi::xml_node operator()(const SaveAs& a) { return writer.SaveAsFragment(a, parent); }
-        pugi::xml_node operator()(const PrintOut& a) { return writer.PrintOutFragment(a, parent); }
-        pugi::xml_node operator()(const Convert& a) { return writer.ConvertFragment(a, parent); }
-        pugi::xml_node operator()(const SendMail& a) { return writer.SendMailFragment(a, parent); }
-        pugi::xml_node operator()(const SendFax& a) { return writer.SendFaxFragment(a, parent); }
-        pugi::xml_node operator()(const AddRecord& a) { return writer.AddRecordFragment(a, parent); }
+        XmlSink& out;
+        void operator()(const MailMerge& a) { writer.MailMergeFragment(a, out); }
+        void operator()(const SaveAs& a) { writer.SaveAsFragment(a, out); }
+        void operator()(const PrintOut& a) { writer.PrintOutFragment(a, out); }
+        void operator()(const Convert& a) { writer.ConvertFragment(a, out); }
+        void operator()(const SendMail& a) { writer.SendMailFragment(a, out); }
+        void operator()(const SendFax& a) { writer.SendFaxFragment(a, out); }
+        void operator()(const AddRecord& a) { writer.AddRecordFragment(a, out); }
     };
-    return VisitActivity(activity, Fragment{*this, parent});
+    VisitActivity(activity, Fragment{*this, out});
+}
+
+pugi::xml_node CProcessesXMLDoc::ActivityFragment(const Activity& activity, pugi::xml_node parent) {
+    PugiXmlSink sink(parent);
+    WriteActivity(activity, sink);
+    return parent.last_child();
 }
 
 }  // namespace flowloom

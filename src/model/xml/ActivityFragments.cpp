@@ -20,162 +20,158 @@ namespace {
 
 constexpr const char* kModule = "CProcessesXMLDoc";
 
-void WriteTarget(pugi::xml_node element, const FileTarget& target) {
-    xmlw::Text(element, "FullName", target.RawFullName());
-    xmlw::Text(element, "Folder", target.RawFolder());
-    xmlw::Text(element, "File", target.RawFile());
+void WriteTarget(XmlSink& out, const FileTarget& target) {
+    xmlw::Text(out, "FullName", target.RawFullName());
+    xmlw::Text(out, "Folder", target.RawFolder());
+    xmlw::Text(out, "File", target.RawFile());
 }
 
 // Pass-through arguments first..last (inclusive) of an activity.
 template <typename Activity, typename Arg, std::size_t N>
-void WriteArguments(pugi::xml_node element, const Activity& activity, const std::array<const char*, N>& names,
+void WriteArguments(XmlSink& out, const Activity& activity, const std::array<const char*, N>& names,
                     Arg first, Arg last) {
     for (auto i = static_cast<std::size_t>(first); i <= static_cast<std::size_t>(last); ++i)
-        xmlw::Tagged(element, names[i], activity.Argument(static_cast<Arg>(i)));
+        xmlw::Tagged(out, names[i], activity.Argument(static_cast<Arg>(i)));
 }
 
 // The datasource name of a SendMail or AddRecord, unless it is the
 // process's main one (compared with regard to case).
-void WriteOtherDatasourceName(pugi::xml_node element, const std::string& name, const Activity& activity) {
+void WriteOtherDatasourceName(XmlSink& out, const std::string& name, const Activity& activity) {
     auto process = activity.ParentProcess();
-    if (!name.empty() && (!process || name != process->MainDataSourceName())) xmlw::Always(element, "DatasourceName", name);
+    if (!name.empty() && (!process || name != process->MainDataSourceName())) xmlw::Always(out, "DatasourceName", name);
 }
 
 }  // namespace
 
-pugi::xml_node CProcessesXMLDoc::MailMergeFragment(const MailMerge& activity, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("MailMerge");
+void CProcessesXMLDoc::MailMergeFragment(const MailMerge& activity, XmlSink& out) {
+    XmlElement element(out, "MailMerge");
     Guarded(kModule, "MailMergeFragment", [&] {
-        xmlw::Text(element, "InvokedApplication", activity.InvokedApplication());
-        xmlw::Text(element, "OutputDocumentName", activity.OutputDocumentName());
-        xmlw::Text(element, "Template", activity.Template());
-        xmlw::Bool(element, "ShowDocument", activity.ShowDocument());
-        xmlw::NonZero(element, "MailMergeType", activity.MailMergeType());
-        if (!activity.InsertPagebreak()) xmlw::Bool(element, "InsertPagebreak", false);
-        xmlw::Text(element, "DatasourceName", activity.DatasourceName());
-        xmlw::Text(element, "Description", activity.Description());
-        xmlw::Text(element, "PrecededBy", activity.PrecededBy());
-        xmlw::Text(element, "SucceededBy", activity.SucceededBy());
-        xmlw::Text(element, "Iteration", activity.Iteration());
+        xmlw::Text(out, "InvokedApplication", activity.InvokedApplication());
+        xmlw::Text(out, "OutputDocumentName", activity.OutputDocumentName());
+        xmlw::Text(out, "Template", activity.Template());
+        xmlw::Bool(out, "ShowDocument", activity.ShowDocument());
+        xmlw::NonZero(out, "MailMergeType", activity.MailMergeType());
+        if (!activity.InsertPagebreak()) xmlw::Bool(out, "InsertPagebreak", false);
+        xmlw::Text(out, "DatasourceName", activity.DatasourceName());
+        xmlw::Text(out, "Description", activity.Description());
+        xmlw::Text(out, "PrecededBy", activity.PrecededBy());
+        xmlw::Text(out, "SucceededBy", activity.SucceededBy());
+        xmlw::Text(out, "Iteration", activity.Iteration());
     });
-    return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::SaveAsFragment(const SaveAs& activity, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("SaveAs");
+void CProcessesXMLDoc::SaveAsFragment(const SaveAs& activity, XmlSink& out) {
+    XmlElement element(out, "SaveAs");
     Guarded(kModule, "SaveAsFragment", [&] {
-        WriteTarget(element, activity.Target());
-        xmlw::Text(element, "InputDocumentName", activity.InputDocumentName());
-        xmlw::Text(element, "OutputDocumentName", activity.OutputDocumentName());
-        WriteArguments(element, activity, kSaveAsArgNames, SaveAsArg::FileFormat, SaveAsArg::ReadOnlyRecommended);
+        WriteTarget(out, activity.Target());
+        xmlw::Text(out, "InputDocumentName", activity.InputDocumentName());
+        xmlw::Text(out, "OutputDocumentName", activity.OutputDocumentName());
+        WriteArguments(out, activity, kSaveAsArgNames, SaveAsArg::FileFormat, SaveAsArg::ReadOnlyRecommended);
         const std::int32_t kind = activity.InputDocumentKind();
         if (kind == dockind::Word) {
-            WriteArguments(element, activity, kSaveAsArgNames, SaveAsArg::LockComments, SaveAsArg::AddBiDiMarks);
+            WriteArguments(out, activity, kSaveAsArgNames, SaveAsArg::LockComments, SaveAsArg::AddBiDiMarks);
         } else if (kind == dockind::Excel) {
-            xmlw::Tagged(element, "CreateBackup", activity.Argument(SaveAsArg::CreateBackup));
+            xmlw::Tagged(out, "CreateBackup", activity.Argument(SaveAsArg::CreateBackup));
             for (SaveAsArg arg : {SaveAsArg::AccessMode, SaveAsArg::ConflictResolution}) {
                 const TaggedValue& value = activity.Argument(arg);
                 if (!value.IsObject() && value.Text() != "1")
-                    xmlw::Tagged(element, kSaveAsArgNames[static_cast<std::size_t>(arg)], value);
+                    xmlw::Tagged(out, kSaveAsArgNames[static_cast<std::size_t>(arg)], value);
             }
-            WriteArguments(element, activity, kSaveAsArgNames, SaveAsArg::AddToMru, SaveAsArg::Local_);
+            WriteArguments(out, activity, kSaveAsArgNames, SaveAsArg::AddToMru, SaveAsArg::Local_);
         }
         if (activity.OverwriteSet())
-            xmlw::Always(element, "OverwriteExistingFile", WordAt(kOverwriteWords, activity.OverwriteExistingFile()));
-        xmlw::Text(element, "Description", activity.Description());
+            xmlw::Always(out, "OverwriteExistingFile", WordAt(kOverwriteWords, activity.OverwriteExistingFile()));
+        xmlw::Text(out, "Description", activity.Description());
     });
-    return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::PrintOutFragment(const PrintOut& activity, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("PrintOut");
+void CProcessesXMLDoc::PrintOutFragment(const PrintOut& activity, XmlSink& out) {
+    XmlElement element(out, "PrintOut");
     Guarded(kModule, "PrintOutFragment", [&] {
-        WriteTarget(element, activity.Target());
-        xmlw::Text(element, "InputDocumentName", activity.InputDocumentName());
-        xmlw::Text(element, "OutputDocumentName", activity.OutputDocumentName());
-        WriteArguments(element, activity, kPrintOutArgNames, PrintOutArg::OutputFileName, PrintOutArg::FileName);
-        xmlw::Text(element, "Description", activity.Description());
-        if (!EqualsNoCase(activity.Printer(), kDefaultPrinterLabel)) xmlw::Text(element, "Printer", activity.Printer());
+        WriteTarget(out, activity.Target());
+        xmlw::Text(out, "InputDocumentName", activity.InputDocumentName());
+        xmlw::Text(out, "OutputDocumentName", activity.OutputDocumentName());
+        WriteArguments(out, activity, kPrintOutArgNames, PrintOutArg::OutputFileName, PrintOutArg::FileName);
+        xmlw::Text(out, "Description", activity.Description());
+        if (!EqualsNoCase(activity.Printer(), kDefaultPrinterLabel)) xmlw::Text(out, "Printer", activity.Printer());
         const std::int32_t kind = activity.InputDocumentKind();
         if (kind == dockind::Excel)
-            WriteArguments(element, activity, kPrintOutArgNames, PrintOutArg::Preview, PrintOutArg::IgnorePrintAreas);
+            WriteArguments(out, activity, kPrintOutArgNames, PrintOutArg::Preview, PrintOutArg::IgnorePrintAreas);
         if (kind == dockind::Word)
-            WriteArguments(element, activity, kPrintOutArgNames, PrintOutArg::Background,
+            WriteArguments(out, activity, kPrintOutArgNames, PrintOutArg::Background,
                            PrintOutArg::PrintZoomPaperHeight);
     });
-    return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::ConvertFragment(const Convert& activity, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("Convert");
+void CProcessesXMLDoc::ConvertFragment(const Convert& activity, XmlSink& out) {
+    XmlElement element(out, "Convert");
     Guarded(kModule, "ConvertFragment", [&] {
-        xmlw::Text(element, "Description", activity.Description());
-        xmlw::Text(element, "InputDocumentName", activity.InputDocumentName());
-        xmlw::Text(element, "OutputDocumentName", activity.OutputDocumentName());
-        WriteTarget(element, activity.Target());
-        xmlw::Bool(element, "Show", activity.ShowDocument());
+        xmlw::Text(out, "Description", activity.Description());
+        xmlw::Text(out, "InputDocumentName", activity.InputDocumentName());
+        xmlw::Text(out, "OutputDocumentName", activity.OutputDocumentName());
+        WriteTarget(out, activity.Target());
+        xmlw::Bool(out, "Show", activity.ShowDocument());
         if (activity.OverwriteSet())
-            xmlw::Always(element, "OverwriteExistingFile", WordAt(kOverwriteWords, activity.OverwriteExistingFile()));
-        xmlw::NonZero(element, "OutputConvertFormat", activity.OutputFileFormat());
-        xmlw::NonZero(element, "PDFConvertingMethod", activity.PDFConvertingMethod());
-        xmlw::Text(element, "PostScriptPrinter", activity.PostscriptPrinter());
-        xmlw::NonZero(element, "PostscriptToPDFConverter", activity.Postscript2PDFConverter());
+            xmlw::Always(out, "OverwriteExistingFile", WordAt(kOverwriteWords, activity.OverwriteExistingFile()));
+        xmlw::NonZero(out, "OutputConvertFormat", activity.OutputFileFormat());
+        xmlw::NonZero(out, "PDFConvertingMethod", activity.PDFConvertingMethod());
+        xmlw::Text(out, "PostScriptPrinter", activity.PostscriptPrinter());
+        xmlw::NonZero(out, "PostscriptToPDFConverter", activity.Postscript2PDFConverter());
     });
-    return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::SendMailFragment(const SendMail& activity, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("SendMail");
+void CProcessesXMLDoc::SendMailFragment(const SendMail& activity, XmlSink& out) {
+    XmlElement element(out, "SendMail");
     Guarded(kModule, "SendMailFragment", [&] {
-        WriteTarget(element, activity.Target());
-        xmlw::Text(element, "InputDocumentName", activity.InputDocumentName());
-        xmlw::Text(element, "OutputDocumentName", activity.OutputDocumentName());
-        xmlw::Text(element, "To", activity.RecipientsToText());
-        xmlw::Text(element, "CC", activity.RecipientsCCText());
-        xmlw::Text(element, "BCC", activity.RecipientsBCCText());
-        xmlw::Text(element, "Subject", activity.Subject());
-        xmlw::Text(element, "Body", activity.Body());
-        xmlw::NonZero(element, "SendMethod", activity.SendMethod());
-        xmlw::NonZero(element, "MailApplication", activity.MailApplication());
-        xmlw::Text(element, "SMTPServer", activity.SMTPServer);
-        xmlw::Text(element, "SMTPServerPort", activity.SMTPServerPort);
-        xmlw::Text(element, "SendUsername", activity.SendUsername);
-        xmlw::Text(element, "SendPassword", activity.SendPassword);
-        xmlw::Text(element, "From", activity.From);
-        xmlw::Text(element, "Charset", activity.Charset);
-        xmlw::Text(element, "Description", activity.Description());
-        WriteOtherDatasourceName(element, activity.DatasourceName(), activity);
+        WriteTarget(out, activity.Target());
+        xmlw::Text(out, "InputDocumentName", activity.InputDocumentName());
+        xmlw::Text(out, "OutputDocumentName", activity.OutputDocumentName());
+        xmlw::Text(out, "To", activity.RecipientsToText());
+        xmlw::Text(out, "CC", activity.RecipientsCCText());
+        xmlw::Text(out, "BCC", activity.RecipientsBCCText());
+        xmlw::Text(out, "Subject", activity.Subject());
+        xmlw::Text(out, "Body", activity.Body());
+        xmlw::NonZero(out, "SendMethod", activity.SendMethod());
+        xmlw::NonZero(out, "MailApplication", activity.MailApplication());
+        xmlw::Text(out, "SMTPServer", activity.SMTPServer);
+        xmlw::Text(out, "SMTPServerPort", activity.SMTPServerPort);
+        xmlw::Text(out, "SendUsername", activity.SendUsername);
+        xmlw::Text(out, "SendPassword", activity.SendPassword);
+        xmlw::Text(out, "From", activity.From);
+        xmlw::Text(out, "Charset", activity.Charset);
+        xmlw::Text(out, "Description", activity.Description());
+        WriteOtherDatasourceName(out, activity.DatasourceName(), activity);
         if (auto attachments = activity.Attachments(); attachments && attachments->Count() > 0) {
-            pugi::xml_node container = element.append_child("Attachments");
-            for (const auto& attachment : *attachments)
-                xmlw::Always(container.append_child("Attachment"), "File", attachment->name);
+            XmlElement container(out, "Attachments");
+            for (const auto& attachment : *attachments) {
+                XmlElement item(out, "Attachment");
+                xmlw::Always(out, "File", attachment->name);
+            }
         }
     });
-    return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::SendFaxFragment(const SendFax& activity, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("SendFax");
-    xmlw::Text(element, "InputDocumentName", activity.InputDocumentName());
-    xmlw::Text(element, "Subject", activity.Subject());
-    xmlw::Text(element, "Address", activity.Address());
-    xmlw::Text(element, "Description", activity.Description());
-    return element;
+void CProcessesXMLDoc::SendFaxFragment(const SendFax& activity, XmlSink& out) {
+    XmlElement element(out, "SendFax");
+    xmlw::Text(out, "InputDocumentName", activity.InputDocumentName());
+    xmlw::Text(out, "Subject", activity.Subject());
+    xmlw::Text(out, "Address", activity.Address());
+    xmlw::Text(out, "Description", activity.Description());
 }
 
-pugi::xml_node CProcessesXMLDoc::AddRecordFragment(const AddRecord& activity, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("AddRecord");
+void CProcessesXMLDoc::AddRecordFragment(const AddRecord& activity, XmlSink& out) {
+    XmlElement element(out, "AddRecord");
     Guarded(kModule, "AddRecordFragment", [&] {
-        xmlw::Text(element, "Database", activity.Database());
-        xmlw::Text(element, "TableName", activity.Tablename());
-        xmlw::Text(element, "Description", activity.Description());
+        xmlw::Text(out, "Database", activity.Database());
+        xmlw::Text(out, "TableName", activity.Tablename());
+        xmlw::Text(out, "Description", activity.Description());
+        // An attribute, so before the field values, which do not change it.
+        WriteOtherDatasourceName(out, activity.DatasourceName(), activity);
         if (activity.HasFieldValues() && activity.FieldValues()->Count() > 0) {
-            pugi::xml_node container = element.append_child("FieldValues");
-            for (const auto& fieldValue : *activity.FieldValues()) FieldValueFragment(*fieldValue, container);
+            XmlElement container(out, "FieldValues");
+            for (const auto& fieldValue : *activity.FieldValues()) FieldValueFragment(*fieldValue, out);
         }
-        WriteOtherDatasourceName(element, activity.DatasourceName(), activity);
     });
-    return element;
 }
 
 }  // namespace flowloom

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "app/TaggedValue.h"
-
-#include <pugixml.hpp>
+#include "app/XmlSink.h"
 
 #include <cstdint>
 #include <string_view>
@@ -11,14 +10,14 @@
 namespace flowloom::xmlw {
 
 // Always written, even when empty.
-void Always(pugi::xml_node element, const char* name, std::string_view value);
+void Always(XmlSink& out, std::string_view name, std::string_view value);
 // Written when the text is not empty.
-void Text(pugi::xml_node element, const char* name, std::string_view value);
+void Text(XmlSink& out, std::string_view name, std::string_view value);
 // A pass-through value: written as its text when that is not empty.
-void Tagged(pugi::xml_node element, const char* name, const TaggedValue& value);
+void Tagged(XmlSink& out, std::string_view name, const TaggedValue& value);
 // "-1" or "0".
-void Bool(pugi::xml_node element, const char* name, bool value);
+void Bool(XmlSink& out, std::string_view name, bool value);
 // Written when not 0.
-void NonZero(pugi::xml_node element, const char* name, std::int32_t value);
+void NonZero(XmlSink& out, std::string_view name, std::int32_t value);
 
 }  // namespace flowloom::xmlw

@@ -21,126 +21,153 @@ constexpr const char* kModule = "CProcessesXMLDoc";
 
 std::unique_ptr<XmlDocument> CProcessesXMLDoc::Generate(const Processes& processes) {
     auto document = std::make_unique<XmlDocument>();
-    Guarded(kModule, "Generate", [&] {
-        document->AppendDeclaration();
-        pugi::xml_node root = document->Native().append_child("Processes");
-        if (processes.Version() > 0) xmlw::Always(root, "Version", std::to_string(processes.Version()));
-        for (const auto& process : processes.Snapshot()) ProcessFragment(*process, root);
-        if (auto databases = processes.Databases(); databases && databases->Count() > 0) {
-            pugi::xml_node element = root.append_child("Databases");
-            for (const auto& database : *databases) DatabaseFragment(*database, element);
-        }
-        if (processes.HasGroups() && processes.Groups()->Count() > 0) {
-            pugi::xml_node element = root.append_child("Groups");
-            for (const auto& group : *processes.Groups()) GroupFragment(*group, element);
-        }
-        if (auto options = processes.Options(); options && options->Count() > 0) {
-            pugi::xml_node element = root.append_child("Options");
-            for (const auto& option : *options) OptionFragment(*option, element);
-        }
-    });
+    document->AppendDeclaration();
+    PugiXmlSink sink(document->Native());
+    WriteRoot(processes, sink);
     return document;
 }
 
-pugi::xml_node CProcessesXMLDoc::ProcessFragment(const Process& process, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("Process");
-    Guarded(kModule, "ProcessFragment", [&] {
-        xmlw::Text(element, "Name", process.name());
-        xmlw::Text(element, "MainDatasourceName", process.MainDataSourceName());
-        xmlw::Always(element, "ProcessRecords", WordAt(kProcessRecordsWords, process.ProcessRecords()));
-        if (process.AbortOnError() != Process::DefaultErrorSetting) xmlw::Bool(element, "AbortOnError", process.AbortOnError());
-        if (process.OnErrorNotifyUser() != Process::DefaultErrorSetting)
-            xmlw::Bool(element, "OnErrorNotifyUser", process.OnErrorNotifyUser());
+void CProcessesXMLDoc::WriteRoot(const Processes& processes, XmlSink& out) {
+    XmlElement root(out, "Processes");
+    Guarded(kModule, "Generate", [&] {
+        if (processes.Version() > 0) xmlw::Always(out, "Version", std::to_string(processes.Version()));
+        for (const auto& process : processes) {
+            if (out.Stopped()) return;
+            WriteProcess(*process, out);
+        }
+        if (auto databases = processes.Databases(); databases && databases->Count() > 0) {
+            XmlElement element(out, "Databases");
+            for (const auto& database : *databases) DatabaseFragment(*database, out);
+        }
+        if (processes.HasGroups() && processes.Groups()->Count() > 0) {
+            XmlElement element(out, "Groups");
+            for (const auto& group : *processes.Groups()) GroupFragment(*group, out);
+        }
+        if (auto options = processes.Options(); options && options->Count() > 0) {
+            XmlElement element(out, "Options");
+            for (const auto& option : *options) {
+                // Option names come from the file: the layer's serialiser
+                // checks them, as it does for any element.
+                pugi::xml_document fragment;
+                OptionFragment(*option, fragment);
+                out.Subtree(fragment.first_child());
+            }
+        }
+    });
+}
 
-        if (auto activities = process.Activities(); activities && activities->Count() > 0) {
-            pugi::xml_node container = element.append_child("Activities");
-            for (const auto& activity : *activities) ActivityFragment(*activity, container);
+pugi::xml_node CProcessesXMLDoc::ProcessFragment(const Process& process, pugi::xml_node parent) {
+    PugiXmlSink sink(parent);
+    WriteProcess(process, sink);
+    return parent.last_child();
+}
+
+void CProcessesXMLDoc::WriteProcess(const Process& process, XmlSink& out) {
+    XmlElement element(out, "Process");
+    Guarded(kModule, "ProcessFragment", [&] {
+        xmlw::Text(out, "Name", process.name());
+        xmlw::Text(out, "MainDatasourceName", process.MainDataSourceName());
+        xmlw::Always(out, "ProcessRecords", WordAt(kProcessRecordsWords, process.ProcessRecords()));
+        if (process.AbortOnError() != Process::DefaultErrorSetting) xmlw::Bool(out, "AbortOnError", process.AbortOnError());
+        if (process.OnErrorNotifyUser() != Process::DefaultErrorSetting)
+            xmlw::Bool(out, "OnErrorNotifyUser", process.OnErrorNotifyUser());
+        // An attribute, so before the children; nothing they write changes
+        // the main datasource's name it falls back on.
+        xmlw::Text(out, "LogDatasourceName", process.LogDatasourceName());
+
+        if (const auto& activities = process.Activities(); activities && activities->Count() > 0) {
+            XmlElement container(out, "Activities");
+            for (const auto& activity : *activities) WriteActivity(*activity, out);
         }
-        if (auto datasources = process.Datasources(); datasources && datasources->Count() > 0) {
-            pugi::xml_node container = element.append_child("Datasources");
-            for (const auto& datasource : *datasources) DatasourceFragment(*datasource, container);
+        if (const auto& datasources = process.Datasources(); datasources && datasources->Count() > 0) {
+            XmlElement container(out, "Datasources");
+            for (const auto& datasource : *datasources) DatasourceFragment(*datasource, out);
         }
-        if (auto documents = process.Documents(); documents && documents->Count() > 0) {
-            pugi::xml_node container = element.append_child("Documents");
-            for (const auto& document : *documents) DocumentFragment(*document, container);
+        if (const auto& documents = process.Documents(); documents && documents->Count() > 0) {
+            XmlElement container(out, "Documents");
+            for (const auto& document : *documents) DocumentFragment(*document, out);
         }
         if (process.HasGroups() && process.Groups()->Count() > 0) {
             // Only groups the file defines are written; the container stays
             // even when none of them is.
-            pugi::xml_node container = element.append_child("Groups");
+            XmlElement container(out, "Groups");
             auto owner = process.Parent();
             for (const auto& group : *process.Groups()) {
                 std::shared_ptr<Group> known;
                 if (owner && owner->HasGroups()) known = owner->Groups()->Find(group->name);
-                if (known && !known->name.empty()) GroupFragment(*known, container);
+                if (known && !known->name.empty()) GroupFragment(*known, out);
             }
         }
         if (process.HasFieldValues() && process.FieldValues()->Count() > 0) {
-            pugi::xml_node container = element.append_child("FieldValues");
-            for (const auto& fieldValue : *process.FieldValues()) FieldValueFragment(*fieldValue, container);
+            XmlElement container(out, "FieldValues");
+            for (const auto& fieldValue : *process.FieldValues()) FieldValueFragment(*fieldValue, out);
         }
-        // Read last: its fallback on the main datasource's name is kept by the read.
-        xmlw::Text(element, "LogDatasourceName", process.LogDatasourceName());
     });
-    return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::DatasourceFragment(const Datasource& datasource, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("Datasource");
+void CProcessesXMLDoc::DatasourceFragment(const Datasource& datasource, XmlSink& out) {
+    XmlElement element(out, "Datasource");
     Guarded(kModule, "DatasourceFragment", [&] {
-        xmlw::Text(element, "Name", datasource.name());
-        xmlw::Text(element, "Type", datasource.Type_);
-        xmlw::Text(element, "Database", datasource.Database);
-        xmlw::Text(element, "ObjectName", datasource.ObjectName);
-        if (datasource.Records > 0) xmlw::Always(element, "Records", WordAt(kProcessRecordsWords, datasource.Records));
-        xmlw::Text(element, "SubformFullName", datasource.SubFormFullName);
-        xmlw::Text(element, "SaveXmlToFolder", datasource.SaveXmlToFolder);
+        xmlw::Text(out, "Name", datasource.name());
+        xmlw::Text(out, "Type", datasource.Type_);
+        xmlw::Text(out, "Database", datasource.Database);
+        xmlw::Text(out, "ObjectName", datasource.ObjectName);
+        if (datasource.Records > 0) xmlw::Always(out, "Records", WordAt(kProcessRecordsWords, datasource.Records));
+        xmlw::Text(out, "SubformFullName", datasource.SubFormFullName);
+        xmlw::Text(out, "SaveXmlToFolder", datasource.SaveXmlToFolder);
     });
-    return element;
 }
 
-pugi::xml_node CProcessesXMLDoc::DocumentFragment(const Document& document, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("Document");
-    xmlw::Text(element, "Name", document.name);
-    return element;
+void CProcessesXMLDoc::DocumentFragment(const Document& document, XmlSink& out) {
+    XmlElement element(out, "Document");
+    xmlw::Text(out, "Name", document.name);
 }
 
-pugi::xml_node CProcessesXMLDoc::DatabaseFragment(const Database& database, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("Database");
-    xmlw::Text(element, "Name", database.name);
-    xmlw::Text(element, "Location", database.Location);
-    xmlw::Text(element, "Type", database.Type_);
-    return element;
+void CProcessesXMLDoc::DatabaseFragment(const Database& database, XmlSink& out) {
+    XmlElement element(out, "Database");
+    xmlw::Text(out, "Name", database.name);
+    xmlw::Text(out, "Location", database.Location);
+    xmlw::Text(out, "Type", database.Type_);
 }
 
-pugi::xml_node CProcessesXMLDoc::GroupFragment(const Group& group, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("Group");
-    xmlw::Text(element, "Name", group.name);
-    return element;
+void CProcessesXMLDoc::GroupFragment(const Group& group, XmlSink& out) {
+    XmlElement element(out, "Group");
+    xmlw::Text(out, "Name", group.name);
 }
 
-pugi::xml_node CProcessesXMLDoc::FieldValueFragment(const FieldValue& fieldValue, pugi::xml_node parent) {
-    pugi::xml_node element = parent.append_child("FieldValue");
-    xmlw::Text(element, "Name", fieldValue.field);
+void CProcessesXMLDoc::FieldValueFragment(const FieldValue& fieldValue, XmlSink& out) {
+    XmlElement element(out, "FieldValue");
+    xmlw::Text(out, "Name", fieldValue.field);
     // The quote goes in as an entity of its own, which the XML layer escapes
     // once more: the run-time reads the value back the same way.
-    xmlw::Text(element, "Value", vb::Replace(fieldValue.value, "\"", "&quot;"));
-    return element;
+    if (fieldValue.value.find('"') == std::string::npos) xmlw::Text(out, "Value", fieldValue.value);
+    else xmlw::Text(out, "Value", vb::Replace(fieldValue.value, "\"", "&quot;"));
 }
 
 pugi::xml_node CProcessesXMLDoc::OptionFragment(const OptionItem& option, pugi::xml_node parent) {
     pugi::xml_node element = parent.append_child(option.name.c_str());
     Guarded(kModule, "OptionFragment", [&] {
         if (option.Attributes)
-            for (const auto& entry : *option.Attributes) xmlw::Always(element, entry->name.c_str(), entry->value.Text());
+            for (const auto& entry : *option.Attributes)
+            {
+                const std::string value = entry->value.Text();
+                element.append_attribute(entry->name.c_str()).set_value(value.data(), value.size());
+            }
     });
     return element;
 }
 
 std::string ProcessFragmentXml(const Process& process) {
-    pugi::xml_document document;
-    CProcessesXMLDoc().ProcessFragment(process, document);
-    return SerializeNode(document);
+    TextXmlSink sink;
+    CProcessesXMLDoc().WriteProcess(process, sink);
+    return sink.Finish();
+}
+
+std::string ProcessesFileXml(const Processes& processes, std::size_t sizeHint, TextXmlSink::Consumer consumer) {
+    TextXmlSink sink(sizeHint, std::move(consumer));
+    sink.Declaration();
+    CProcessesXMLDoc().WriteRoot(processes, sink);
+    return sink.Finish();
 }
 
 }  // namespace flowloom
