@@ -25,7 +25,10 @@ public:
         ModelRevision::Bump();
     }
     std::shared_ptr<flowloom::FieldValues> FieldValues() const;  // created on first read
-    void SetFieldValues(std::shared_ptr<flowloom::FieldValues> values) { fieldValues_ = std::move(values); }
+    void SetFieldValues(std::shared_ptr<flowloom::FieldValues> values) {
+        fieldValues_ = std::move(values);
+        ModelRevision::Bump();
+    }
     bool HasFieldValues() const noexcept { return fieldValues_ != nullptr; }
     const std::string& Database() const noexcept { return database_; }
     void SetDatabase(std::string value) { database_ = std::move(value); }

@@ -84,6 +84,23 @@ TEST_F(SessionEdit, MultiLineValuesAndRefusedEdits) {
     EXPECT_NE(out.str().find("AbortOnError=\"0\""), std::string::npos);
 }
 
+TEST_F(SessionEdit, EveryEditThatChangesTheFileIsAnUnsavedChange) {
+    const std::string path = File("yes.xml", R"(<?xml version="1.0" encoding="UTF-8"?><Processes Version="1">)"
+                                             R"(<Process Name="P"><Activities><SaveAs OverwriteExistingFile="Yes"/>)"
+                                             R"(<SendMail/></Activities><Datasources><Datasource Name="D"/>)"
+                                             R"(</Datasources></Process></Processes>)");
+    // The default of the overwrite mode leaves the file without it, though
+    // the number stays 0; the same value again changes nothing.
+    EXPECT_EQ(Session({"-xmlfile", path}, "cell activity 0 0\nrow 5 0 - Ask for confirmation\ndump\nmenu mnuFileSave\n"
+                                          "cell activity 3 0\nrow 12 smtp.example\ndump\nmenu mnuFileSave\n"
+                                          "cell datasource 1 0\nrow 3 Query\ndump\nmenu mnuFileSave\n"
+                                          "row 3 Query\ndump\n"),
+              0);
+    EXPECT_EQ(Pick({"changed"}), "changed: yes\nchanged: yes\nchanged: yes\nchanged: no\n");
+    EXPECT_EQ(ReadAll(path).find("OverwriteExistingFile"), std::string::npos);
+    EXPECT_NE(ReadAll(path).find(R"(SMTPServer="smtp.example")"), std::string::npos);
+}
+
 TEST_F(SessionEdit, AnEditMarksANewProcessChangedEvenWhenRefused) {
     // Leaving the changed new process asks for its name.
     EXPECT_EQ(Session({"-xmlfile", Example()}, "list 0\nrow 4 perhaps\nlist 1\n"), 0);
