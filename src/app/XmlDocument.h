@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace flowloom {
 
@@ -62,6 +63,12 @@ private:
 // Parses one child of an outline into `document` (replacing what it held);
 // its element, or a null node when the text does not parse.
 pugi::xml_node ParseChild(const XmlOutline::Child& child, pugi::xml_document& document);
+// Parses the children first..last of an outline, with what stands between
+// them, into `document` at once, in place in `buffer` (which keeps its room
+// from call to call); their elements in order, or none when the text does
+// not parse.
+std::vector<pugi::xml_node> ParseChildren(const XmlOutline& outline, std::size_t first, std::size_t last,
+                                          pugi::xml_document& document, std::string& buffer);
 
 // The serialised text of one node (an element or a whole document). It is
 // well-formed whatever the tree holds: characters XML does not allow, and
