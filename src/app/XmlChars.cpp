@@ -43,19 +43,7 @@ bool InRanges(char32_t c) noexcept {
     return false;
 }
 
-constexpr bool IsAsciiLetter(char32_t c) noexcept { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
-
-struct AsciiTables {
-    bool start[128] = {};
-    bool name[128] = {};
-    constexpr AsciiTables() {
-        for (char32_t c = 0; c < 128; ++c) {
-            start[c] = IsAsciiLetter(c) || c == '_' || c == ':';
-            name[c] = start[c] || c == '-' || c == '.' || (c >= '0' && c <= '9');
-        }
-    }
-};
-constexpr AsciiTables kAscii;
+constexpr const AsciiNameTables& kAscii = kAsciiName;
 
 // Whether every character of `text` is a name character and the first a start
 // character; with `colons` false a colon is refused anywhere.
@@ -141,8 +129,6 @@ bool IsNameChar(char32_t c) noexcept {
     return c == 0xB7 || (c >= 0x300 && c <= 0x36F) || (c >= 0x203F && c <= 0x2040) || InRanges(c);
 }
 
-bool IsAsciiNameStart(unsigned char c) noexcept { return c < 128 && kAscii.start[c]; }
-bool IsAsciiNameChar(unsigned char c) noexcept { return c < 128 && kAscii.name[c]; }
 
 NameShape ShapeOf(std::string_view text) noexcept {
     if (text.empty()) return NameShape::NotName;

@@ -30,9 +30,20 @@ bool IsNameStartChar(char32_t c) noexcept;
 bool IsNameChar(char32_t c) noexcept;
 
 // ASCII characters that may start a name and that may stand in one: tables
-// for the loops that read or write whole documents.
-bool IsAsciiNameStart(unsigned char c) noexcept;
-bool IsAsciiNameChar(unsigned char c) noexcept;
+// for the loops that read or write whole documents, inline for them.
+struct AsciiNameTables {
+    bool start[128] = {};
+    bool name[128] = {};
+    constexpr AsciiNameTables() {
+        for (int c = 0; c < 128; ++c) {
+            start[c] = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == ':';
+            name[c] = start[c] || c == '-' || c == '.' || (c >= '0' && c <= '9');
+        }
+    }
+};
+inline constexpr AsciiNameTables kAsciiName;
+inline bool IsAsciiNameStart(unsigned char c) noexcept { return c < 128 && kAsciiName.start[c]; }
+inline bool IsAsciiNameChar(unsigned char c) noexcept { return c < 128 && kAsciiName.name[c]; }
 
 // What a text is as a name: no Name at all, a Name that is no qualified name
 // (a colon at an end, two colons, no name start behind the colon), or a QName.

@@ -27,7 +27,7 @@ void AddRecord::Dispose() {
 
 void AddRecord::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
-    for (const pugi::xml_attribute& a : node.attributes()) {
+    for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         if (NameIs(a, "Database")) database_ = a.value();
         else if (NameIs(a, "TableName")) tablename_ = a.value();
         else if (NameIs(a, "Description")) SetDescription(a.value());

@@ -47,7 +47,7 @@ std::int32_t Convert::Postscript2PDFConverter() const {
 
 void Convert::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
-    for (const pugi::xml_attribute& a : node.attributes()) {
+    for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         try {
             if (ReadCommonAttribute(a)) continue;
             const char* value = a.value();

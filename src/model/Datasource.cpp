@@ -15,7 +15,7 @@ const std::string& Datasource::name() const {
 void Datasource::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
     parent_ = process;
     bool recordsRead = false;
-    for (const pugi::xml_attribute& a : node.attributes()) {
+    for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         Guarded("Datasource", "LoadElement", [&] {
             if (NameIs(a, "Name")) name_ = a.value();
             else if (NameIs(a, "Type")) Type_ = a.value();

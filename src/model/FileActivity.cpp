@@ -21,7 +21,7 @@ void FileActivity::Dispose() {
     Activity::Dispose();
 }
 
-bool FileActivity::ReadCommonAttribute(const pugi::xml_attribute& a) {
+bool FileActivity::ReadCommonAttribute(const MeasuredAttribute& a) {
     if (NameIs(a, "InputDocumentName")) inputDocumentName_ = a.value();
     else if (NameIs(a, "Folder")) SetFolder(a.value());
     else if (NameIs(a, "File")) SetFile(a.value());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Tracked.h"
+#include "app/XmlDocument.h"
 #include "model/Activity.h"
 #include "model/FileTarget.h"
 
@@ -52,7 +53,7 @@ protected:
     void StoreOutputDocumentName(std::string name) { outputDocumentName_ = std::move(name); }
     // Takes InputDocumentName, Folder, File, FullName and Description;
     // false for any other attribute.
-    bool ReadCommonAttribute(const pugi::xml_attribute& attribute);
+    bool ReadCommonAttribute(const MeasuredAttribute& attribute);
 
 private:
     std::int32_t inputError_;

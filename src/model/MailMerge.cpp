@@ -41,7 +41,7 @@ void MailMerge::Dispose() {
 
 void MailMerge::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
-    for (const pugi::xml_attribute& a : node.attributes()) {
+    for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         Guarded("MailMerge", "LoadElement", [&] {
             if (NameIs(a, "InvokedApplication")) invokedApplication_ = a.value();
             else if (NameIs(a, "Template")) template_ = a.value();

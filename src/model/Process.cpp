@@ -15,12 +15,21 @@ namespace flowloom {
 
 namespace {
 
+// The word at `index` of a ";"-separated list, without splitting it.
+std::optional<std::string_view> WordOf(std::string_view words, std::size_t index) {
+    for (std::size_t i = 0;; ++i) {
+        const std::size_t end = words.find(';');
+        if (i == index) return words.substr(0, end);
+        if (end == std::string_view::npos) return std::nullopt;
+        words.remove_prefix(end + 1);
+    }
+}
+
 std::optional<std::int32_t> ReadWordList(std::string_view text, const char* words) {
     const std::string trimmed = vb::Trim(text);
     if (auto number = vb::ToNumber(trimmed)) return vb::CLng(*number);
-    const auto list = vb::Split(words, ";");
-    for (std::size_t i = 0; i < list.size(); ++i)
-        if (NameIs(trimmed, list[i])) return static_cast<std::int32_t>(i);
+    for (std::size_t i = 0; const auto word = WordOf(words, i); ++i)
+        if (NameIs(trimmed, *word)) return static_cast<std::int32_t>(i);
     return std::nullopt;
 }
 
@@ -33,14 +42,14 @@ std::optional<std::int32_t> ReadProcessRecords(std::string_view text) {
 std::optional<std::int32_t> ReadOverwriteMode(std::string_view text) { return ReadWordList(text, kOverwriteWords); }
 
 std::string WordAt(const char* words, std::int32_t index) {
-    const auto list = vb::Split(words, ";");
-    if (index < 0 || static_cast<std::size_t>(index) >= list.size()) RaiseStandardError(vberr::SubscriptOutOfRange);
-    return list[static_cast<std::size_t>(index)];
+    const auto word = index < 0 ? std::nullopt : WordOf(words, static_cast<std::size_t>(index));
+    if (!word) RaiseStandardError(vberr::SubscriptOutOfRange);
+    return std::string(*word);
 }
 
 std::shared_ptr<FieldValue> ReadFieldValue(const pugi::xml_node& element) {
     auto fieldValue = std::make_shared<FieldValue>();
-    for (const pugi::xml_attribute& a : element.attributes()) {
+    for (const MeasuredAttribute a : MeasuredAttributes(element)) {
         if (NameIs(a, "Name")) fieldValue->field = a.value();
         else if (NameIs(a, "Value")) fieldValue->value = vb::Replace(a.value(), "&quot;", "\"");
     }
@@ -135,7 +144,7 @@ void Process::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Proc
 }
 
 void Process::ReadAttributes(const pugi::xml_node& node) {
-    for (const pugi::xml_attribute& a : node.attributes()) {
+    for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         if (NameIs(a, "Name")) name_ = a.value();
         else if (NameIs(a, "MainDatasourceName")) mainDataSourceName_ = a.value();
         else if (NameIs(a, "ProcessRecords")) {

@@ -80,11 +80,25 @@ bool Processes::ReadContents(const XmlOutline& outline) {
     processes_.Reserve(static_cast<std::size_t>(processes_.Count()) +
                        static_cast<std::size_t>(std::count_if(outline.children.begin(), outline.children.end(),
                                                               [](const auto& c) { return c.name == "Process"; })));
-    for (const auto& child : outline.children) {
-        if (child.name != "Process") continue;
-        auto process = Process::Create();
-        process->LoadElement(parsed(child), self);
-        Add(process);
+    // Processes come in batches of neighbouring children, parsed at once:
+    // a tree of a few hundred kilobytes of text at a time.
+    constexpr std::size_t kBatchBytes = 256 * 1024;
+    std::string buffer;
+    const std::size_t count = outline.children.size();
+    for (std::size_t first = 0; first < count;) {
+        std::size_t last = first;
+        std::size_t bytes = outline.children[first].text.size();
+        while (last + 1 < count && bytes + outline.children[last + 1].text.size() <= kBatchBytes)
+            bytes += outline.children[++last].text.size();
+        const std::vector<pugi::xml_node> elements = ParseChildren(outline, first, last, fragment, buffer);
+        if (elements.empty()) RaiseStandardError(vberr::ObjectRequired);  // the check let it pass, so it parses
+        for (std::size_t i = first; i <= last; ++i) {
+            if (outline.children[i].name != "Process") continue;
+            auto process = Process::Create();
+            process->LoadElement(elements[i - first], self);
+            Add(process);
+        }
+        first = last + 1;
     }
     if (const auto* child = first("Databases")) {
         auto databases = std::make_shared<flowloom::Databases>();

@@ -23,7 +23,7 @@ std::int32_t SaveAs::InputDocumentKind() const {
 
 void SaveAs::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
-    for (const pugi::xml_attribute& a : node.attributes()) {
+    for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         try {
             if (ReadCommonAttribute(a)) continue;
             if (NameIs(a, "OverwriteExistingFile")) {

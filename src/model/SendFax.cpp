@@ -18,7 +18,7 @@ void SendFax::Dispose() {
 
 void SendFax::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
-    for (const pugi::xml_attribute& a : node.attributes()) {
+    for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         if (NameIs(a, "InputDocumentName")) inputDocumentName_ = a.value();
         else if (NameIs(a, "Subject")) subject_ = a.value();
         else if (NameIs(a, "Address")) address_ = a.value();

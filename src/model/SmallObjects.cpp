@@ -10,12 +10,12 @@
 namespace flowloom {
 
 void Group::LoadElement(const pugi::xml_node& node) {
-    for (const pugi::xml_attribute& a : node.attributes())
+    for (const MeasuredAttribute a : MeasuredAttributes(node))
         if (NameIs(a, "Name")) name = a.value();
 }
 
 void Database::LoadElement(const pugi::xml_node& node) {
-    for (const pugi::xml_attribute& a : node.attributes()) {
+    for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         if (NameIs(a, "Name")) name = a.value();
         else if (NameIs(a, "Location")) Location = a.value();
         else if (NameIs(a, "Type")) Type_ = a.value();
@@ -28,7 +28,7 @@ std::vector<std::string>& Document::Pictures() {
 }
 
 void Document::LoadElement(const pugi::xml_node& node) {
-    for (const pugi::xml_attribute& a : node.attributes())
+    for (const MeasuredAttribute a : MeasuredAttributes(node))
         if (NameIs(a, "Name")) name = a.value();
 }
 

@@ -60,6 +60,19 @@ TEST_F(ProcessElement, ProcessRecordsReadsWordsNumbersAndIgnoresOthers) {
     EXPECT_EQ(First(R"(<Process Name="p" ProcessRecords=" selected "/>)")->ProcessRecords(), 2);
     EXPECT_EQ(First(R"(<Process Name="p" ProcessRecords="1"/>)")->ProcessRecords(), 1);
     EXPECT_EQ(First(R"(<Process Name="p" ProcessRecords="Some"/>)")->ProcessRecords(), 0);
+    EXPECT_EQ(ReadOverwriteMode("NO"), 2);
+    EXPECT_EQ(ReadOverwriteMode("Yes;Confirm"), std::nullopt);
+    EXPECT_EQ(ReadOverwriteMode(""), std::nullopt);
+    EXPECT_EQ(WordAt(kOverwriteWords, 0), "Yes");
+    EXPECT_EQ(WordAt(kProcessRecordsWords, 2), "Selected");
+    for (const std::int32_t outside : {-1, 3}) {
+        try {
+            (void)WordAt(kProcessRecordsWords, outside);
+            ADD_FAILURE() << outside;
+        } catch (const VbError& error) {
+            EXPECT_EQ(error.Number(), 9);
+        }
+    }
 }
 
 TEST_F(ProcessElement, BooleansFollowTheFileRuleWhateverTheAttributeCase) {
