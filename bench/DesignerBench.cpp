@@ -2,7 +2,7 @@
 // (three strips and the process sheet), clicking an activity (its sheet),
 // and an edit in the grid that renames the activity's cell on the canvas.
 #include "BenchTiming.h"
-#include "designer/HeadlessGrid.h"
+#include "grid/HeadlessGrid.h"
 #include "designer/frmDesigner.h"
 #include "model/Activities.h"
 #include "model/Process.h"
@@ -51,7 +51,7 @@ int main(int argc, char** argv) {
     flowloom::ScopedPrompts scope(silent);
     const std::string file = WriteFile(activities);
 
-    flowloom::designer::HeadlessGrid grid;
+    flowloom::grid::HeadlessGrid grid;
     flowloom::designer::DesignerView view;
     flowloom::designer::frmDesigner designer(grid, view);
     grid.SetEvents(&designer);

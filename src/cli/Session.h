@@ -2,7 +2,7 @@
 
 #include "cli/SessionPrompts.h"
 #include "designer/DesignerView.h"
-#include "designer/HeadlessGrid.h"
+#include "grid/HeadlessGrid.h"
 #include "designer/frmDesigner.h"
 
 #include <istream>
@@ -59,7 +59,7 @@ public:
     bool CommitRow(int index, const std::string& value);
 
     designer::frmDesigner& Designer() noexcept { return designer_; }
-    designer::HeadlessGrid& Grid() noexcept { return grid_; }
+    grid::HeadlessGrid& Grid() noexcept { return grid_; }
 
 private:
     using Words = std::vector<std::string>;
@@ -73,7 +73,7 @@ private:
     std::ostream& out_;
     SessionPrompts prompts_;
     ScopedPrompts promptsInUse_;
-    designer::HeadlessGrid grid_;
+    grid::HeadlessGrid grid_;
     SessionView view_;
     designer::frmDesigner designer_;
     bool failedStart_ = false;
@@ -87,9 +87,9 @@ int RunSession(const std::vector<std::string>& designerArgs, std::istream& in, s
                std::ostream& err);
 
 // The state of the designer as the `dump` action prints it.
-void WriteDump(designer::frmDesigner& designer, designer::HeadlessGrid& grid, std::ostream& out);
+void WriteDump(designer::frmDesigner& designer, grid::HeadlessGrid& grid, std::ostream& out);
 // The sheet on show: "sheet: KIND", then one "row N: ..." line per row.
-void WriteSheet(designer::frmDesigner& designer, designer::HeadlessGrid& grid, std::ostream& out);
+void WriteSheet(designer::frmDesigner& designer, grid::HeadlessGrid& grid, std::ostream& out);
 // The open context menu as one transcript line, without its line break.
 std::string PopupLine(const designer::MenuBar& menus);
 

@@ -105,7 +105,7 @@ std::string ClipboardText(const designer::Clipboard& clipboard) {
 
 }  // namespace
 
-void WriteDump(designer::frmDesigner& designer, designer::HeadlessGrid& grid, std::ostream& out) {
+void WriteDump(designer::frmDesigner& designer, grid::HeadlessGrid& grid, std::ostream& out) {
     Line(out, "caption", designer.Caption());
     Line(out, "list", ListText(designer.lstProcesses()));
     Line(out, "list-mark", designer.ProcessListMarked() ? "on" : "off");
@@ -120,7 +120,7 @@ void WriteDump(designer::frmDesigner& designer, designer::HeadlessGrid& grid, st
          Join({designer.ActiveObjectType(), designer.ActiveObjectName(), designer.ActiveObjectFields()}, " | "));
 }
 
-void WriteSheet(designer::frmDesigner& designer, designer::HeadlessGrid& grid, std::ostream& out) {
+void WriteSheet(designer::frmDesigner& designer, grid::HeadlessGrid& grid, std::ostream& out) {
     Line(out, "sheet", designer.PropListTag());
     grid::Properties& rows = grid.Rows();
     for (std::int32_t i = 1; i <= rows.Count(); ++i)

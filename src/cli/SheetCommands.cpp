@@ -112,7 +112,7 @@ private:
         return 0;
     }
 
-    designer::HeadlessGrid grid_;
+    grid::HeadlessGrid grid_;
     designer::DesignerView view_;
     designer::frmDesigner form_;
 };

@@ -2,7 +2,7 @@
 // the canvas surviving a command that rebuilds it from inside its own event,
 // and the menu and toolbar data the window is built from.
 #include "designer/CHTMLDocument.h"
-#include "designer/HeadlessGrid.h"
+#include "grid/HeadlessGrid.h"
 #include "designer/ItemCopies.h"
 #include "designer/frmDesigner.h"
 #include "model/Activities.h"
@@ -127,7 +127,7 @@ TEST(Designer, ALargeProcessKeepsItsRowsInStep) {
     const std::string file = (folder.Path() / "many.xml").string();
     ASSERT_TRUE(processes->Save(file));
 
-    HeadlessGrid grid;
+    grid::HeadlessGrid grid;
     DesignerView view;
     frmDesigner designer(grid, view);
     grid.SetEvents(&designer);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "designer/DesignerView.h"
+#include "grid/PropertyGridHost.h"
 #include "grid/Properties.h"
 #include "grid/PropertyEvents.h"
 #include "grid/PropertyOwner.h"
@@ -8,25 +8,25 @@
 #include <functional>
 #include <string>
 
-namespace flowloom::designer {
+namespace flowloom::grid {
 
 // The grid without a window: rows, a selected row and the events a click on
 // a row raises. The session and the tests put it where the window has its
 // grid widget.
-class HeadlessGrid : public PropertyGridHost, private grid::PropertyOwner {
+class HeadlessGrid : public PropertyGridHost, private PropertyOwner {
 public:
     HeadlessGrid() : rows_(this) {}
 
     // Where the grid's events go (the designer); not owned.
-    void SetEvents(grid::PropertyEvents* events) noexcept { events_ = events; }
+    void SetEvents(PropertyEvents* events) noexcept { events_ = events; }
 
-    grid::Properties& Rows() override { return rows_; }
-    grid::Property* SelectedItem() const override { return selected_; }
+    Properties& Rows() override { return rows_; }
+    Property* SelectedItem() const override { return selected_; }
     void SetHoldDraw(bool) override {}
     // Rows stand one under the other, 16 pixels high, 240 pixels wide.
-    bool RowRect(const grid::Property& row, int& right, int& top) const override;
+    bool RowRect(const Property& row, int& right, int& top) const override;
 
-    void SelectRow(grid::Property& row) override;
+    void SelectRow(Property& row) override;
 
     // A click on the 1-based row: the selection changes (SelChange), then
     // the grid's Click; false when there is no such row.
@@ -34,26 +34,26 @@ public:
     // The user commits `value` into the row, as the grid does on Enter:
     // ValueChanged, then, unless cancelled, the row takes the text as the
     // handler left it (if the row still exists). False when cancelled.
-    bool CommitEdit(grid::Property& row, std::string value);
+    bool CommitEdit(Property& row, std::string value);
     // The text the row shows, asking the events for custom data.
-    std::string ShownText(grid::Property& row);
+    std::string ShownText(Property& row);
 
 private:
-    bool IsSelected(const grid::Property& row) const override { return &row == selected_; }
+    bool IsSelected(const Property& row) const override { return &row == selected_; }
     void RowsCleared() override {
         selected_ = nullptr;
         editing_ = nullptr;
     }
-    void ClearSelectionIf(const grid::Property& row) override {
+    void ClearSelectionIf(const Property& row) override {
         if (&row == selected_) selected_ = nullptr;
         if (&row == editing_) editing_ = nullptr;
     }
 
-    grid::Properties rows_;
-    grid::Property* selected_ = nullptr;
+    Properties rows_;
+    Property* selected_ = nullptr;
     // The row of the edit being committed, until a handler removes it.
-    const grid::Property* editing_ = nullptr;
-    grid::PropertyEvents* events_ = nullptr;
+    const Property* editing_ = nullptr;
+    PropertyEvents* events_ = nullptr;
 };
 
-}  // namespace flowloom::designer
+}  // namespace flowloom::grid

@@ -1,15 +1,15 @@
-#include "designer/HeadlessGrid.h"
+#include "grid/HeadlessGrid.h"
 
 #include "grid/Property.h"
 
-namespace flowloom::designer {
+namespace flowloom::grid {
 
 namespace {
 constexpr int kRowHeight = 16;
 constexpr int kGridWidth = 240;
 }  // namespace
 
-bool HeadlessGrid::RowRect(const grid::Property& row, int& right, int& top) const {
+bool HeadlessGrid::RowRect(const Property& row, int& right, int& top) const {
     const std::int32_t index = rows_.IndexOf(&row);
     if (index == 0) return false;
     right = kGridWidth;
@@ -19,8 +19,8 @@ bool HeadlessGrid::RowRect(const grid::Property& row, int& right, int& top) cons
 
 bool HeadlessGrid::ClickRow(int index, const std::function<void()>& click) {
     if (index < 1 || index > rows_.Count()) return false;
-    grid::Property* old = selected_;
-    grid::Property* row = &rows_.Item(index);
+    Property* old = selected_;
+    Property* row = &rows_.Item(index);
     if (row != old) {
         selected_ = row;
         if (events_) events_->SelChange(old, row);
@@ -29,9 +29,9 @@ bool HeadlessGrid::ClickRow(int index, const std::function<void()>& click) {
     return true;
 }
 
-void HeadlessGrid::SelectRow(grid::Property& row) { selected_ = &row; }
+void HeadlessGrid::SelectRow(Property& row) { selected_ = &row; }
 
-bool HeadlessGrid::CommitEdit(grid::Property& row, std::string value) {
+bool HeadlessGrid::CommitEdit(Property& row, std::string value) {
     bool cancel = false;
     editing_ = &row;
     if (events_) events_->ValueChanged(row, value, cancel);
@@ -42,10 +42,10 @@ bool HeadlessGrid::CommitEdit(grid::Property& row, std::string value) {
     return true;
 }
 
-std::string HeadlessGrid::ShownText(grid::Property& row) {
+std::string HeadlessGrid::ShownText(Property& row) {
     std::string shown = row.value();
     if (row.UseCustomData() && events_) events_->QueryCustomData(row, shown);
     return shown;
 }
 
-}  // namespace flowloom::designer
+}  // namespace flowloom::grid
