@@ -75,7 +75,7 @@ public:
     std::function<void()> OnBringToFront;
 
     // The window is disabled while the tool runs; the timer ticks meanwhile.
-    bool Enabled() const noexcept { return enabled_; }
+    bool Enabled() const noexcept override { return enabled_; }
     int TimerInterval() const noexcept { return timerInterval_; }
     bool ToolRunning() const noexcept { return toolWindow_ != 0; }
     // One tick of the timer: keeps the tool in front of the dialog while it
