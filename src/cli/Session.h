@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/SessionPrompts.h"
+#include "cli/SessionTool.h"
 #include "designer/DesignerView.h"
 #include "grid/HeadlessGrid.h"
 #include "designer/frmDesigner.h"
@@ -41,6 +42,7 @@ private:
 class Session {
 public:
     explicit Session(std::ostream& out);
+    ~Session();
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
@@ -66,6 +68,15 @@ private:
 
     void Act(const std::string& verb, const Words& words);
     void EditRow(const std::string& arguments);
+    // The grid a row action goes to: the open dialog's, else the window's.
+    grid::HeadlessGrid& RowGrid();
+    bool ClickRow(int index);
+    void Browse(int index);
+    // The dialog actions; false when the verb is none of them.
+    bool DialogAct(const std::string& verb, const std::string& rest);
+    // Whether the window can take the action now: a modal dialog or a
+    // running tool keeps it from the window.
+    bool Blocked(const std::string& verb) const;
     void ChooseMenu(const std::string& name);
     void Dump();
     void Xml();
@@ -73,6 +84,8 @@ private:
     std::ostream& out_;
     SessionPrompts prompts_;
     ScopedPrompts promptsInUse_;
+    SessionToolLauncher tool_;
+    ToolLauncher* previousTool_ = nullptr;
     grid::HeadlessGrid grid_;
     SessionView view_;
     designer::frmDesigner designer_;
@@ -86,8 +99,11 @@ private:
 int RunSession(const std::vector<std::string>& designerArgs, std::istream& in, std::ostream& out,
                std::ostream& err);
 
-// The state of the designer as the `dump` action prints it.
+// The state of the designer as the `dump` action prints it, with the open
+// dialog and the tool after the window's lines.
 void WriteDump(designer::frmDesigner& designer, grid::HeadlessGrid& grid, std::ostream& out);
+// The open dialog: "dialog: CAPTION", then one line per control.
+void WriteDialog(designer::frmDesigner& designer, std::ostream& out);
 // The sheet on show: "sheet: KIND", then one "row N: ..." line per row.
 void WriteSheet(designer::frmDesigner& designer, grid::HeadlessGrid& grid, std::ostream& out);
 // The open context menu as one transcript line, without its line break.

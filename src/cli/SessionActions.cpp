@@ -2,6 +2,7 @@
 // one thing a person does to the window.
 #include "cli/Session.h"
 
+#include "grid/Property.h"
 #include "model/Processes.h"
 
 #include <charconv>
@@ -89,10 +90,81 @@ void Session::Execute(const std::string& rawLine) {
     if (verb == "input") return prompts_.QueueInput(rest);
     if (verb == "file") return prompts_.QueueFile(rest.empty() ? std::nullopt : std::optional<std::string>(rest));
 
+    if (DialogAct(verb, rest)) return;
+    if (Blocked(verb)) {
+        out_ << "blocked: " << verb << '\n';
+        return;
+    }
     // Any action closes an open context menu; a menu entry is chosen from it first.
     if (verb != "menu" && designer_.PopupOpen()) designer_.ClosePopup();
     if (verb == "row") return EditRow(rest);
     Act(verb, words);
+}
+
+bool Session::Blocked(const std::string& verb) const {
+    if (verb == "dump" || verb == "xml") return false;
+    const bool dialog = designer_.OpenDialog() != nullptr;
+    // A dialog's own grid takes row edits and its browse buttons.
+    if (dialog && designer_.OpenDialogGrid() && (verb == "row" || verb == "browse")) return !designer_.Enabled();
+    return dialog || !designer_.Enabled();
+}
+
+bool Session::DialogAct(const std::string& verb, const std::string& rest) {
+    if (verb == "tool-close") {
+        if (!tool_.Close(ExpandLineBreaks(rest))) throw ScriptError("no tool runs");
+        designer_.ToolEnded();
+        return true;
+    }
+    if (verb.rfind("dialog-", 0) != 0) return false;
+    if (!designer_.OpenDialog()) throw ScriptError("no dialog is open");
+    const std::size_t blank = rest.find(' ');
+    const std::string control = rest.substr(0, blank);
+    const std::string argument = blank == std::string::npos ? std::string() : rest.substr(blank + 1);
+    bool acted = false;
+    if (verb == "dialog-set") {
+        if (blank == std::string::npos) throw ScriptError("usage: dialog-set CONTROL TEXT");
+        acted = designer_.DialogSetText(control, ExpandLineBreaks(argument));
+    } else if (verb == "dialog-pick") {
+        if (SplitWords(argument).size() != 1) throw ScriptError("usage: dialog-pick CONTROL N");
+        acted = designer_.DialogPick(control, Number(SplitWords(argument)[0]));
+    } else if (verb == "dialog-click") {
+        if (control.empty() || blank != std::string::npos) throw ScriptError("usage: dialog-click BUTTON");
+        acted = designer_.DialogClick(control);
+    } else if (verb == "dialog-close") {
+        if (!rest.empty()) throw ScriptError("usage: dialog-close");
+        designer_.DialogCloseBox();
+        acted = true;
+    } else {
+        throw ScriptError("unknown action '" + verb + "'");
+    }
+    if (!acted) out_ << "refused: " << verb << ' ' << control << '\n';
+    return true;
+}
+
+grid::HeadlessGrid& Session::RowGrid() {
+    if (auto* dialogGrid = dynamic_cast<grid::HeadlessGrid*>(designer_.OpenDialogGrid())) return *dialogGrid;
+    return grid_;
+}
+
+bool Session::ClickRow(int index) {
+    grid::HeadlessGrid& grid = RowGrid();
+    if (index < 1 || index > grid.Rows().Count()) throw ScriptError("there is no row " + std::to_string(index));
+    if (&grid != &grid_) return grid.ClickRow(index, nullptr);
+    // The press gives the grid the focus; the grid then selects the row.
+    designer_.GridRowClick(index);
+    return grid_.ClickRow(index, [this] { designer_.PropList_Click(); });
+}
+
+void Session::Browse(int index) {
+    ClickRow(index);
+    grid::HeadlessGrid& grid = RowGrid();
+    if (index > grid.Rows().Count()) return;  // the click rebuilt the sheet
+    grid::Property& row = grid.Rows().Item(index);
+    const int type = row.ItemType();
+    if (type == grid::ExPropBrowse || type == grid::ExPropFile || type == grid::ExPropFolder)
+        return grid.PressBrowse(row);
+    if (&grid == &grid_ && designer_.Layout().cmdBrowseVisible) return designer_.cmdBrowse_Click();
+    throw ScriptError("row " + std::to_string(index) + " has no browse button");
 }
 
 void Session::EditRow(const std::string& arguments) {
@@ -100,17 +172,16 @@ void Session::EditRow(const std::string& arguments) {
     const std::size_t blank = arguments.find(' ');
     if (blank == std::string::npos) throw ScriptError("usage: row N VALUE");
     const int index = Number(arguments.substr(0, blank));
-    if (index < 1 || index > grid_.Rows().Count()) throw ScriptError("there is no row " + std::to_string(index));
     if (!CommitRow(index, ExpandLineBreaks(arguments.substr(blank + 1)))) out_ << "cancelled: row " << index << '\n';
 }
 
 bool Session::CommitRow(int index, const std::string& value) {
-    // The press gives the grid the focus and selects the row; the typed text
-    // is then committed as Enter commits it.
-    designer_.GridRowClick(index);
-    grid_.ClickRow(index, [this] { designer_.PropList_Click(); });
-    if (index > grid_.Rows().Count()) return false;  // the click rebuilt the sheet
-    return grid_.CommitEdit(grid_.Rows().Item(index), value);
+    // The press selects the row; the typed text is then committed as Enter
+    // commits it.
+    ClickRow(index);
+    grid::HeadlessGrid& grid = RowGrid();
+    if (index > grid.Rows().Count()) return false;  // the click rebuilt the sheet
+    return grid.CommitEdit(grid.Rows().Item(index), value);
 }
 
 void Session::Act(const std::string& verb, const Words& words) {
@@ -154,6 +225,7 @@ void Session::Act(const std::string& verb, const Words& words) {
              s.designer_.GridRowClick(row);
              s.grid_.ClickRow(row, [&s] { s.designer_.PropList_Click(); });
          }},
+        {"browse", 1, "browse N", [](Session& s, const Words& w) { s.Browse(Number(w[0])); }},
         {"close", 0, "close", [](Session& s, const Words&) { s.designer_.Form_Unload(); }},
         {"dump", 0, "dump", [](Session& s, const Words&) { s.Dump(); }},
         {"xml", 0, "xml", [](Session& s, const Words&) { s.Xml(); }},

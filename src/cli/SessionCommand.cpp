@@ -10,10 +10,18 @@ void SessionView::ShowPopupMenu() {
 }
 
 Session::Session(std::ostream& out)
-    : out_(out), prompts_(out), promptsInUse_(prompts_), view_(out), designer_(grid_, view_) {
+    : out_(out),
+      prompts_(out),
+      promptsInUse_(prompts_),
+      tool_(out),
+      previousTool_(SetCurrentToolLauncher(&tool_)),
+      view_(out),
+      designer_(grid_, view_) {
     grid_.SetEvents(&designer_);
     view_.SetMenus(&designer_.Menus());
 }
+
+Session::~Session() { SetCurrentToolLauncher(previousTool_); }
 
 bool Session::Start(const std::vector<std::string>& designerArgs) {
     const bool loaded = designer_.Form_Load(RawCommandLineFromArgs(designerArgs));

@@ -4,7 +4,9 @@
 #include "cli/Session.h"
 
 #include "designer/CHTMLDocument.h"
+#include "grid/HeadlessGrid.h"
 #include "grid/Properties.h"
+#include "support/ModalDialog.h"
 #include "grid/Property.h"
 
 #include <initializer_list>
@@ -97,6 +99,30 @@ std::string RowText(designer::frmDesigner& designer, grid::Property& row) {
                 " | ");
 }
 
+std::string EntriesText(const DialogControl& control) {
+    Entries entries;
+    for (std::size_t i = 0; i < control.entries.size(); ++i)
+        entries.Add(control.entries[i], static_cast<int>(i) == control.listIndex);
+    return "[" + entries.Text() + "]";
+}
+
+// The rows of a dialog's grid, as the window's sheet rows are printed.
+void WriteDialogGrid(designer::frmDesigner& designer, std::ostream& out) {
+    auto* grid = dynamic_cast<grid::HeadlessGrid*>(designer.OpenDialogGrid());
+    if (!grid) return;
+    grid::Properties& rows = grid->Rows();
+    for (std::int32_t i = 1; i <= rows.Count(); ++i) {
+        grid::Property& row = rows.Item(i);
+        std::string value = row.value();
+        if (row.UseCustomData()) value += " {" + grid->ShownText(row) + "}";
+        const bool selected = grid->SelectedItem() == &row;
+        Line(out, std::string(selected ? "*" : "") + "dialog-row " + std::to_string(i),
+             Join({row.Tag().Text(), row.Caption(), std::to_string(row.ItemType()), value,
+                   row.LockedEdit() ? "locked" : "free", ListItemsText(row)},
+                  " | "));
+    }
+}
+
 std::string ClipboardText(const designer::Clipboard& clipboard) {
     if (clipboard.Empty()) return "none";
     const std::string name = clipboard.Name();
@@ -118,6 +144,30 @@ void WriteDump(designer::frmDesigner& designer, grid::HeadlessGrid& grid, std::o
     Line(out, "clipboard", ClipboardText(designer.mClipboardContent()));
     Line(out, "active-object",
          Join({designer.ActiveObjectType(), designer.ActiveObjectName(), designer.ActiveObjectFields()}, " | "));
+    // Only what differs from an idle window, so that plain dumps stay short.
+    if (!designer.Enabled()) Line(out, "enabled", "no");
+    if (designer.ToolWatched()) Line(out, "tool", "running");
+    WriteDialog(designer, out);
+}
+
+void WriteDialog(designer::frmDesigner& designer, std::ostream& out) {
+    const ModalDialog* dialog = designer.OpenDialog();
+    if (!dialog) return;
+    Line(out, "dialog", dialog->Caption());
+    for (const DialogControl& control : dialog->Controls()) {
+        std::string text;
+        switch (control.kind) {
+        case ControlKind::Label: text = "label | " + control.caption; break;
+        case ControlKind::Button: text = "button | " + control.caption; break;
+        case ControlKind::TextBox: text = "text | " + control.text; break;
+        case ControlKind::ComboBox: text = "combo | " + control.text + " | " + EntriesText(control); break;
+        case ControlKind::ListBox: text = "list | " + EntriesText(control); break;
+        case ControlKind::Grid: text = "grid"; break;
+        }
+        if (!control.enabled) text += " | disabled";
+        Line(out, "control " + control.name, text);
+        if (control.kind == ControlKind::Grid) WriteDialogGrid(designer, out);
+    }
 }
 
 void WriteSheet(designer::frmDesigner& designer, grid::HeadlessGrid& grid, std::ostream& out) {

@@ -2,6 +2,10 @@
 
 #include "grid/PropertyGridHost.h"
 
+namespace flowloom {
+class ModalDialog;
+}
+
 #include <string>
 
 namespace flowloom::grid {
@@ -28,6 +32,8 @@ inline constexpr unsigned BrowseButton = 1u << 4;
 inline constexpr unsigned Layout = 1u << 5;
 inline constexpr unsigned Cursor = 1u << 6;
 inline constexpr unsigned Sheet = 1u << 7;
+inline constexpr unsigned Dialog = 1u << 8;   // a dialog opened or closed
+inline constexpr unsigned Enabled = 1u << 9;  // the window was enabled or disabled
 }  // namespace changed
 
 // The window that shows a designer: told of each change, asked to move the
@@ -44,6 +50,18 @@ public:
     // frmDesigner::ChooseMenu, closing without one through ClosePopup.
     virtual void ShowPopupMenu() {}
     virtual void ShowAbout() {}
+    // Shows the dialog modally over the window. A window returns once the
+    // dialog is closed, having passed the person's actions to the designer's
+    // Dialog... calls; a designer without a window returns at once and the
+    // dialog stays open for the next actions.
+    virtual void ShowDialog(ModalDialog&) {}
+    // A fresh grid for a dialog that edits rows (the options), kept by the
+    // window until the next one is asked for; null lets the designer use
+    // one without a window.
+    virtual grid::PropertyGridHost* DialogGrid() { return nullptr; }
+    // The designer came to the front while a tool runs, or the tool ended:
+    // the window brings itself in front.
+    virtual void BringToFront() {}
     // The window unloads: the program ends.
     virtual void Unload() {}
 };

@@ -3,6 +3,8 @@
 #include "designer/frmDesigner.h"
 
 #include "designer/FrmDesignerParts.h"
+
+#include "designer/access/AccessObjects.h"
 #include "app/CXmlMessages.h"
 #include "app/CommandLine.h"
 #include "model/Process.h"
@@ -192,6 +194,7 @@ bool frmDesigner::Form_Unload() {
         Processes_.reset();
     } catch (...) {
     }
+    access::CloseConnections();
     unloaded_ = true;
     view_.Unload();
     return true;

@@ -6,10 +6,13 @@
 #include "designer/HtmlDom.h"
 #include "designer/ListBoxData.h"
 #include "designer/MenuData.h"
+#include "designer/editor/HtmlEditor.h"
 #include "grid/PropertyEvents.h"
 #include "sheets/SheetHost.h"
+#include "support/ModalDialog.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,7 +23,15 @@ class Database;
 class Datasource;
 class Process;
 class Processes;
+class SendMail;
 }  // namespace flowloom
+
+namespace flowloom::access {
+class CAccessObjects;
+}
+namespace flowloom::grid {
+class HeadlessGrid;
+}
 
 namespace flowloom::designer {
 
@@ -54,7 +65,7 @@ enum class MenuResult { Chosen, Disabled, Hidden, NotOpen, Unknown };
 // The main window's logic: its state, its handlers and its commands. The
 // Qt window and the headless session both drive this one class: they turn a
 // person's mouse and keys into the calls below and show what it changed.
-class frmDesigner : public grid::PropertyEvents, private sheets::SheetHost {
+class frmDesigner : public grid::PropertyEvents, private sheets::SheetHost, private editor::HtmlEditorHost {
 public:
     frmDesigner(PropertyGridHost& grid, DesignerView& view);
     ~frmDesigner() override;
@@ -145,6 +156,29 @@ public:
     void DropdownPick(grid::Property&, int) override {}
     void PreExpand(grid::Property&) override {}
     void cmdBrowse_Click();
+
+    // --- dialogs and the mail-body tool -----------------------------------
+    // The modal dialog on show, or null.
+    ModalDialog* OpenDialog() const noexcept { return dialog_.get(); }
+    // The grid of the open dialog when it has one (the options), or null.
+    grid::PropertyGridHost* OpenDialogGrid() const noexcept;
+    // A person acts on a control of the open dialog; false when there is no
+    // open dialog or the control cannot take the action. A failure of the
+    // dialog's handler is reported under the dialog's name.
+    bool DialogSetText(const std::string& control, const std::string& text);
+    bool DialogPick(const std::string& control, int index);
+    bool DialogClick(const std::string& button);
+    // The dialog's close box (or Escape): as its Cancel.
+    void DialogCloseBox();
+    // False while the mail-body tool runs.
+    bool Enabled() const noexcept { return enabled_; }
+    // Whether a tool started from the window or its dialog is being watched.
+    bool ToolWatched() const noexcept;
+    // The tool's process ended.
+    void ToolEnded();
+    // The watch on a running tool: the person came back to the window (or
+    // the dialog) in front of the tool.
+    void Timer1_Timer(bool designerInFront);
 
 private:
     struct StripState;
@@ -274,6 +308,7 @@ private:
     std::shared_ptr<Datasource> SelectedDatasource() const override;
     std::shared_ptr<Activity> SelectedActivity() const override;
     void LoadDatabaseObjects(const std::string& databaseName) override;
+    bool DatabaseObjectsLoaded() const override { return mAccessObjects != nullptr; }
     bool DatabaseObjectList(const std::string& type, std::string& list) const override;
     const sheets::FieldListMemo& LastFieldList() const override { return fieldListMemo_; }
     sheets::SheetMemory& Memory() override { return sheetMemory_; }
@@ -283,6 +318,25 @@ private:
     void SelectRow(grid::Property& row) override;
     bool ProcessRenamed(std::string& sNewValue) override;
     std::vector<std::string> GetTableFields(const std::string& tableName, const std::string& databaseName) override;
+
+    // HtmlEditorHost.
+    std::shared_ptr<Processes> ToolProcesses() const override { return Processes_; }
+    void SetEnabled(bool enabled) override;
+    void SetTimerInterval(int milliseconds) override { timerInterval_ = milliseconds; }
+
+    // Dialogs and the tool (frmDesignerDialogs.cpp, frmDesignerTool.cpp).
+    using DialogDone = std::function<void(ModalDialog&)>;
+    void ShowDialog(std::unique_ptr<ModalDialog> dialog, std::string formName, DialogDone done);
+    template <typename Action>
+    bool DialogAction(const std::string& control, const char* event, Action&& action);
+    void FinishDialogIfClosed();
+    void BrowseFieldValues(grid::Property& row);
+    void BrowseAttachments(grid::Property& row);
+    void BrowseGroups();
+    void ApplyDialogResult(grid::Property& row, std::string text);
+    void EditSendMailBody(grid::Property& row);
+    void HtmlEditorClosed();
+    void OpenDialogHelp();
 
     PropertyGridHost& grid_;
     DesignerView& view_;
@@ -302,6 +356,22 @@ private:
     std::shared_ptr<HtmlCell> mSelectedCell;
     std::string activeObjectType_, activeObjectName_, activeObjectFields_;
     std::string mAccessObjectsLocation;
+    std::unique_ptr<access::CAccessObjects> mAccessObjects;
+    // The mail-body tool: its exchange file, its window, the activity edited.
+    std::string mHtmlEditorFile;
+    editor::ToolWindow mHtmlEditorWindow = 0;
+    std::shared_ptr<SendMail> mHtmlEditorSendMail;
+    int timerInterval_ = 0;
+    bool enabled_ = true;
+    // The dialog on show, its form's name for error reports and what its
+    // caller does once it is closed; a closed one is kept until the window
+    // that showed it has let go of it.
+    std::unique_ptr<ModalDialog> dialog_;
+    std::string dialogForm_;
+    DialogDone dialogDone_;
+    std::unique_ptr<ModalDialog> closedDialog_;
+    std::unique_ptr<grid::HeadlessGrid> dialogGrid_;
+    grid::PropertyGridHost* dialogGridHost_ = nullptr;
     sheets::FieldListMemo fieldListMemo_;
     sheets::SheetMemory sheetMemory_;
 

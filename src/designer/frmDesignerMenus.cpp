@@ -260,12 +260,6 @@ void frmDesigner::GenerateCodeWithXml() {
     });
 }
 
-void frmDesigner::ShowOptions() {
-    // The options dialog comes with the dialogs of a later change; until
-    // then the entry says so rather than do nothing.
-    if (Processes_) MsgBox("Not ready ...", msgbox::Information);
-}
-
 void frmDesigner::ShowAbout() { view_.ShowAbout(); }
 
 void frmDesigner::HelpRequested() {

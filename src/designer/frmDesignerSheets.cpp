@@ -3,6 +3,7 @@
 #include "designer/FrmDesignerParts.h"
 
 #include "app/CXmlMessages.h"
+#include "designer/access/AccessObjects.h"
 #include "grid/Properties.h"
 #include "grid/Property.h"
 #include "model/Database.h"
@@ -101,15 +102,6 @@ void frmDesigner::KeyDownEdit(int& KeyCode, int) {
             [&] { sheets::KeyDownEdit(KindOf(propListTag_), KeyCode, *this, grid_.SelectedItem()); });
 }
 
-void frmDesigner::Browse(grid::Property&, std::string&) {
-    MsgBox("Not ready ...", msgbox::Information);
-}
-
-void frmDesigner::cmdBrowse_Click() {
-    BeginAction();
-    MsgBox("Not ready ...", msgbox::Information);
-}
-
 // --- what the sheets ask ------------------------------------------------------------
 
 int frmDesigner::ShowMessage(const std::string& prompt, int style) { return MsgBox(prompt, style); }
@@ -160,10 +152,10 @@ bool frmDesigner::ProcessRenamed(std::string& sNewValue) {
     return true;
 }
 
-std::vector<std::string> frmDesigner::GetTableFields(const std::string&, const std::string&) {
-    // A table's fields come from reading the Access file itself, as the
-    // object lists do; until that reader is here no table has known fields.
-    return {};
+std::vector<std::string> frmDesigner::GetTableFields(const std::string& tableName, const std::string& databaseName) {
+    if (!Processes_) return {};
+    const auto database = Processes_->GetDatabaseByName(databaseName);
+    return access::GetTableFields(tableName, database.get());
 }
 
 std::shared_ptr<Database> frmDesigner::SelectedDatabase() const {
@@ -185,11 +177,22 @@ void frmDesigner::LoadDatabaseObjects(const std::string& databaseName) {
     const auto database = Processes_ ? Processes_->GetDatabaseByName(databaseName) : nullptr;
     if (!database || EqualsNoCase(database->Location, mAccessObjectsLocation)) return;
     if (!FileExists(database->Location)) return;
-    // Reading the objects of an Access file comes with the database browser;
-    // the location is remembered so that it is not inspected twice in a row.
+    // The same file is not read twice in a row; a file that cannot be read
+    // leaves empty lists, and the rows then simply offer nothing.
+    mAccessObjects = std::make_unique<access::CAccessObjects>();
+    std::string workgroup;
+    mAccessObjects->GetObjects(database->Location, workgroup, "", "", "");
     mAccessObjectsLocation = database->Location;
 }
 
-bool frmDesigner::DatabaseObjectList(const std::string&, std::string&) const { return false; }
+bool frmDesigner::DatabaseObjectList(const std::string& type, std::string& list) const {
+    if (!mAccessObjects) return false;
+    // An empty list is error 5 here, and reaches the handler that asked.
+    if (type == "Form") list = mAccessObjects->FormList();
+    else if (type == "Table") list = mAccessObjects->TableList();
+    else if (type == "Query") list = mAccessObjects->QueryList();
+    else list.clear();
+    return true;
+}
 
 }  // namespace flowloom::designer

@@ -1,6 +1,7 @@
 #include "grid/HeadlessGrid.h"
 
 #include "grid/Property.h"
+#include "support/Prompts.h"
 
 namespace flowloom::grid {
 
@@ -40,6 +41,25 @@ bool HeadlessGrid::CommitEdit(Property& row, std::string value) {
     if (cancel) return false;
     if (alive) row.SetValue(value);
     return true;
+}
+
+void HeadlessGrid::PressBrowse(Property& row) {
+    if (row.ItemType() == ExPropFile || row.ItemType() == ExPropFolder) {
+        // The file and folder rows ask for a path and commit it as typed.
+        FileDialogRequest request;
+        request.title = row.DialogTitle();
+        request.filter = row.DialogFilter();
+        request.fileName = row.value();
+        if (const auto path = CurrentPrompts().SelectFile(request); path && !path->empty()) CommitEdit(row, *path);
+        return;
+    }
+    std::string fill = row.value();
+    editing_ = &row;
+    if (events_) events_->Browse(row, fill);
+    const bool alive = editing_ == &row;
+    editing_ = nullptr;
+    // The row takes what the handler left, if it is still the selected one.
+    if (alive && selected_ == &row) row.SetValue(fill);
 }
 
 std::string HeadlessGrid::ShownText(Property& row) {

@@ -17,8 +17,7 @@ class HeadlessGrid : public PropertyGridHost, private PropertyOwner {
 public:
     HeadlessGrid() : rows_(this) {}
 
-    // Where the grid's events go (the designer); not owned.
-    void SetEvents(PropertyEvents* events) noexcept { events_ = events; }
+    void SetEvents(PropertyEvents* events) override { events_ = events; }
 
     Properties& Rows() override { return rows_; }
     Property* SelectedItem() const override { return selected_; }
@@ -35,6 +34,11 @@ public:
     // ValueChanged, then, unless cancelled, the row takes the text as the
     // handler left it (if the row still exists). False when cancelled.
     bool CommitEdit(Property& row, std::string value);
+    // The row's own browse button ("..."): a file or folder row asks for a
+    // path (through the prompts) and commits it; any other raises Browse
+    // with the row's value, which the row takes back afterwards if it is
+    // still selected.
+    void PressBrowse(Property& row);
     // The text the row shows, asking the events for custom data.
     std::string ShownText(Property& row);
 

@@ -4,12 +4,15 @@ namespace flowloom::grid {
 
 class Properties;
 class Property;
+class PropertyEvents;
 
 // The grid as the designer needs it: its rows, the selected row, a hold on
 // painting while a sheet is built, and where a row stands.
 class PropertyGridHost {
 public:
     virtual ~PropertyGridHost() = default;
+    // Where the grid's events go; null stops them. Not owned.
+    virtual void SetEvents(PropertyEvents* events) = 0;
     virtual Properties& Rows() = 0;
     virtual Property* SelectedItem() const = 0;
     // LockWindowUpdate: nothing paints while held.

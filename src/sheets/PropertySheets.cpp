@@ -33,7 +33,7 @@ constexpr std::int32_t kListOnDemandRow = 4;  // ObjectName and TableName
 // (an AddRecord's, the only activity that names one); the Datasource sheet
 // has normally inspected its own database while it was built.
 void EnsureDatabaseObjects(SheetHost& host) {
-    if (std::string ignored; host.DatabaseObjectList("Table", ignored)) return;
+    if (host.DatabaseObjectsLoaded()) return;
     const auto activity = host.SelectedActivity();
     if (const auto* addRecord = ActivityAs<AddRecord>(activity.get())) host.LoadDatabaseObjects(addRecord->Database());
 }

@@ -57,6 +57,8 @@ public:
     // Inspects the named database for its object lists, unless its location
     // is the one inspected last.
     virtual void LoadDatabaseObjects(const std::string& databaseName) = 0;
+    // Whether a database has been inspected for its object lists.
+    virtual bool DatabaseObjectsLoaded() const = 0;
     // The object lists of the database inspected last, joined with ";";
     // false when none has been inspected.
     virtual bool DatabaseObjectList(const std::string& type, std::string& list) const = 0;

@@ -64,6 +64,9 @@ public:
     bool Closed() const noexcept { return closed_; }
     // Set by cmdOK; the caller reads the result only then.
     bool OK() const noexcept { return ok_; }
+    // False while the dialog waits for something outside it (a tool it
+    // started); its window then takes no input.
+    virtual bool Enabled() const { return true; }
     // The window's close box: as cmdCancel.
     void CloseBox() { Close(false); }
 

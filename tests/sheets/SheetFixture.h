@@ -40,6 +40,7 @@ public:
         if (failLoading) throw VbError(53, "File not found");
         if (auto it = objects.find(name); it != objects.end()) inspected = &it->second;
     }
+    bool DatabaseObjectsLoaded() const override { return inspected != nullptr; }
     bool DatabaseObjectList(const std::string& type, std::string& list) const override {
         if (!inspected) return false;
         auto it = inspected->find(type);

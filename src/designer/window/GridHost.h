@@ -19,8 +19,8 @@ public:
     GridHost(const GridHost&) = delete;
     GridHost& operator=(const GridHost&) = delete;
 
-    // Where the events go (the designer); nullptr stops them. Not owned.
-    void SetEvents(grid::PropertyEvents* events) noexcept { events_ = events; }
+    // Where the events go (the designer or a dialog); nullptr stops them.
+    void SetEvents(grid::PropertyEvents* events) override { events_ = events; }
 
     // PropertyGridHost.
     grid::Properties& Rows() override;

@@ -3,9 +3,13 @@
 #include "designer/Resources.h"
 #include "designer/window/CanvasView.h"
 #include "designer/window/DialogText.h"
+#include "designer/window/DialogWindow.h"
 #include "designer/window/GridHost.h"
 #include "designer/window/ProcessListView.h"
+#include "designer/window/QtToolLauncher.h"
 #include "grid/widget/PropertyList.h"
+#include "support/ModalDialog.h"
+#include "support/ToolLauncher.h"
 
 #include <QAction>
 #include <QApplication>
@@ -53,7 +57,9 @@ MainWindow::~MainWindow() {
     for (CanvasView* canvas : canvases_) canvas->Detach();
     list_->Detach();
     gridHost_->SetEvents(nullptr);
+    if (dialogGridHost_) dialogGridHost_->SetEvents(nullptr);
     core_.reset();
+    if (tools_ && &CurrentToolLauncher() == tools_.get()) SetCurrentToolLauncher(nullptr);
 }
 
 void MainWindow::BuildControls() {
@@ -76,6 +82,14 @@ void MainWindow::BuildControls() {
     core_ = std::make_unique<frmDesigner>(*gridHost_, *this);
     gridHost_->SetEvents(core_.get());
     connect(grid_, &grid::PropertyList::Click, this, [this] { core_->PropList_Click(); });
+
+    // The mail-body tool runs as a process of its own; its end reaches the
+    // designer, which takes the text back and enables the window again.
+    tools_ = std::make_unique<QtToolLauncher>();
+    SetCurrentToolLauncher(tools_.get());
+    connect(tools_.get(), &QtToolLauncher::finished, this, [this] {
+        if (core_) core_->ToolEnded();
+    });
 
     // Tab goes round the controls in the order they are made, and the grid
     // came first for the designer: after it come the button and the help
@@ -135,6 +149,43 @@ void MainWindow::Changed(unsigned what) {
     else if (what & changed::BrowseButton) ShowBrowseButton();
     if (what & changed::Cursor) ShowCursor();
     if (what & changed::Sheet) grid_->Refresh();
+    if (what & changed::Enabled) {
+        // While the tool runs the window takes no input, as the tool's owner.
+        centralWidget()->setEnabled(core_->Enabled());
+        menuBar()->setEnabled(core_->Enabled());
+        toolbar_->setEnabled(core_->Enabled());
+    }
+    if ((what & (changed::Dialog | changed::Sheet)) && dialogWindow_) {
+        if (dialogGridWidget_) dialogGridWidget_->Refresh();
+        dialogWindow_->Sync();
+    }
+}
+
+void MainWindow::ShowDialog(ModalDialog& dialog) {
+    // A grid made for this dialog goes into it; it comes back when it closes.
+    QWidget* grid = dialogGridHost_ && core_->OpenDialogGrid() == dialogGridHost_.get() ? dialogGridWidget_.get()
+                                                                                         : nullptr;
+    DialogWindow window(*core_, dialog, grid, this);
+    dialogWindow_ = &window;
+    if (dialogShown_) QTimer::singleShot(0, &window, [this, &window] {
+        if (dialogShown_) dialogShown_(window);
+    });
+    window.exec();
+    dialogWindow_ = nullptr;
+}
+
+grid::PropertyGridHost* MainWindow::DialogGrid() {
+    if (dialogGridHost_) dialogGridHost_->SetEvents(nullptr);
+    dialogGridHost_.reset();
+    dialogGridWidget_ = std::make_unique<grid::PropertyList>();
+    dialogGridWidget_->setObjectName(QStringLiteral("PropList"));
+    dialogGridHost_ = std::make_unique<GridHost>(*dialogGridWidget_);
+    return dialogGridHost_.get();
+}
+
+void MainWindow::BringToFront() {
+    raise();
+    activateWindow();
 }
 
 void MainWindow::ShowListMark() {
@@ -209,7 +260,10 @@ void MainWindow::showEvent(QShowEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && core_) core_->Form_Activate();
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || !core_) return;
+    // Coming back to the window while the tool runs puts the tool in front.
+    if (core_->ToolWatched() && !core_->OpenDialog()) return core_->Timer1_Timer(true);
+    core_->Form_Activate();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -25,8 +25,10 @@ class PropertyList;
 namespace flowloom::designer::window {
 
 class CanvasView;
+class DialogWindow;
 class GridHost;
 class ProcessListView;
+class QtToolLauncher;
 
 // frmDesigner's window: binds Qt widgets to the designer's logic and shows
 // what the designer changed. Every decision is the designer's; the window
@@ -62,6 +64,15 @@ public:
     void ShowPopupMenu() override;
     void ShowAbout() override;
     void Unload() override;
+    void ShowDialog(ModalDialog& dialog) override;
+    grid::PropertyGridHost* DialogGrid() override;
+    void BringToFront() override;
+
+    // The dialog on show, or null; tests act on its widgets.
+    DialogWindow* OpenDialogWindow() const noexcept { return dialogWindow_; }
+    // Runs once a dialog window is shown (tests drive it from here, since
+    // the dialog's event loop does not return until it closes).
+    void SetDialogShown(std::function<void(DialogWindow&)> shown) { dialogShown_ = std::move(shown); }
 
 signals:
     // The designer unloaded: the program ends.
@@ -97,6 +108,13 @@ private:
 
     std::unique_ptr<GridHost> gridHost_;
     std::unique_ptr<frmDesigner> core_;
+    // The tool launcher this window installed, and the grid of a dialog that
+    // has one (made before the dialog is shown, kept for the next one).
+    std::unique_ptr<QtToolLauncher> tools_;
+    std::unique_ptr<grid::PropertyList> dialogGridWidget_;
+    std::unique_ptr<GridHost> dialogGridHost_;
+    DialogWindow* dialogWindow_ = nullptr;
+    std::function<void(DialogWindow&)> dialogShown_;
 
     QWidget* central_ = nullptr;
     QFrame* line1_ = nullptr;

@@ -1,6 +1,8 @@
 #include "WindowFixture.h"
 
 #include "app/CommandLine.h"
+#include "grid/widget/PropertyList.h"
+#include "grid/widget/RowListView.h"
 
 #include <QApplication>
 
@@ -44,6 +46,17 @@ void WindowTest::SetUp() {
 void WindowTest::TearDown() {
     // Nothing was edited that should be saved: leave without the question.
     window_.reset();
+}
+
+int WindowTest::ClickGridRow(grid::PropertyList& grid, const std::string& caption) {
+    for (int y = 0; y < grid.height(); ++y) {
+        const grid::Property* row = grid.HitTest(10, y);
+        if (!row || row->Caption() != caption) continue;
+        auto* list = grid.findChild<grid::RowListView*>();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->viewport()->mapFrom(&grid, QPoint(10, y + 2)));
+        return y;
+    }
+    return -1;
 }
 
 void WindowTest::Settle() {

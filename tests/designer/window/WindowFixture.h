@@ -10,6 +10,11 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
+
+namespace flowloom::grid {
+class PropertyList;
+}
 
 namespace flowloom::designer::window::testing {
 
@@ -27,6 +32,8 @@ protected:
     void ClickCell(Strip strip, int row, int cell, Qt::MouseButton button = Qt::LeftButton);
     // Types a key into whatever has the keyboard focus.
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    // Clicks the row of the grid with that caption; its top in pixels, or -1.
+    static int ClickGridRow(grid::PropertyList& grid, const std::string& caption);
     // Lets queued layout and painting happen.
     static void Settle();
 

@@ -104,17 +104,6 @@ TEST_F(WindowTest, TheKeyboardAloneGoesRoundTheControlsAndThroughTheFlow) {
 }
 
 // Clicks the caption of the grid's row with that caption; its top in the grid, or -1.
-int ClickGridRow(grid::PropertyList& grid, const std::string& caption) {
-    for (int y = 0; y < grid.height(); ++y) {
-        const grid::Property* row = grid.HitTest(10, y);
-        if (!row || row->Caption() != caption) continue;
-        auto* list = grid.findChild<grid::RowListView*>();
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->viewport()->mapFrom(&grid, QPoint(10, y + 2)));
-        return y;
-    }
-    return -1;
-}
-
 TEST_F(WindowTest, TheBrowseButtonStandsAtTheRightEndOfTheRowsThatHaveIt) {
     grid::PropertyList& grid = Window().Grid();
     auto* browse = Window().findChild<QToolButton*>("cmdBrowse");

@@ -1,0 +1,93 @@
+// The dialogs on the screen: opened from the grid and the menu, driven with
+// the mouse and keys on their widgets, and what they leave in the model.
+#include "WindowFixture.h"
+
+#include "designer/window/DialogWindow.h"
+#include "grid/widget/PropertyList.h"
+#include "model/FieldValue.h"
+#include "model/Process.h"
+#include "model/Processes.h"
+#include "options/Options.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace flowloom::designer::window::testing {
+namespace {
+
+void Press(DialogWindow& dialog, const char* button) {
+    auto* widget = qobject_cast<QPushButton*>(dialog.Control(button));
+    ASSERT_NE(widget, nullptr) << button;
+    QTest::mouseClick(widget, Qt::LeftButton);
+}
+
+void Type(DialogWindow& dialog, const char* combo, const char* text) {
+    auto* widget = qobject_cast<QComboBox*>(dialog.Control(combo));
+    ASSERT_NE(widget, nullptr) << combo;
+    QTest::keyClicks(widget->lineEdit(), text);
+}
+
+TEST_F(WindowTest, FieldValuesAreAddedInTheirDialogAndReachTheProcess) {
+    ASSERT_GE(ClickGridRow(Window().Grid(), "Field Values"), 0);
+    Settle();
+    bool shown = false, addEnabledBeforeValue = true;
+    Window().SetDialogShown([&](DialogWindow& dialog) {
+        shown = true;
+        EXPECT_EQ(dialog.windowTitle(), "FieldValues");
+        Type(dialog, "cboField", "Greeting");
+        addEnabledBeforeValue = dialog.Control("cmdFieldValueAdd")->isEnabled();
+        Type(dialog, "cboValue", "Dear customer");
+        Press(dialog, "cmdFieldValueAdd");
+        auto* list = qobject_cast<QListWidget*>(dialog.Control("lstFieldValues"));
+        ASSERT_NE(list, nullptr);
+        EXPECT_EQ(list->count(), 2);
+        Press(dialog, "cmdOK");
+    });
+    auto* browse = Window().findChild<QToolButton*>("cmdBrowse");
+    ASSERT_NE(browse, nullptr);
+    ASSERT_TRUE(browse->isVisible());
+    QTest::mouseClick(browse, Qt::LeftButton);
+    Settle();
+    ASSERT_TRUE(shown);
+    EXPECT_FALSE(addEnabledBeforeValue);
+    EXPECT_EQ(Core().OpenDialog(), nullptr);
+    const auto values = Core().CurrentProcess()->FieldValues();
+    ASSERT_EQ(values->Count(), 2);
+    EXPECT_EQ(values->Item(2)->field, "Greeting");
+    EXPECT_EQ(values->Item(2)->value, "Dear customer");
+    EXPECT_TRUE(Core().HasUnsavedChanges());
+}
+
+TEST_F(WindowTest, TheOptionsDialogShowsItsGroupsAndEscapeLeavesTheOptionsAsTheyWere) {
+    const std::string before = Core().CurrentProcesses()->XML();
+    bool shown = false;
+    Window().SetDialogShown([&](DialogWindow& dialog) {
+        shown = true;
+        EXPECT_EQ(dialog.windowTitle(), "Options");
+        auto* groups = qobject_cast<QListWidget*>(dialog.Control("lstOptions"));
+        ASSERT_NE(groups, nullptr);
+        ASSERT_EQ(groups->count(), 4);
+        EXPECT_EQ(groups->currentRow(), 0);
+        auto* grid = dialog.findChild<grid::PropertyList*>();
+        ASSERT_NE(grid, nullptr);
+        EXPECT_TRUE(grid->isVisible());
+        groups->setCurrentRow(2);  // Contact
+        Settle();
+        EXPECT_EQ(grid->Rows().Count(), 6);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    QAction* options = Window().ActionNamed("mnuToolsOptions");
+    ASSERT_NE(options, nullptr);
+    options->trigger();
+    Settle();
+    ASSERT_TRUE(shown);
+    EXPECT_EQ(Core().OpenDialog(), nullptr);
+    EXPECT_EQ(Core().CurrentProcesses()->XML(), before);
+}
+
+}  // namespace
+}  // namespace flowloom::designer::window::testing
