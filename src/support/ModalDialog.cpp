@@ -28,15 +28,10 @@ bool ModalDialog::SetText(std::string_view name, const std::string& text) {
     if (found->kind != ControlKind::TextBox && found->kind != ControlKind::ComboBox) return false;
     DialogControl& control = Control(name);
     control.text = text;
-    // Typing leaves a combo box without a selected entry unless the text is one.
-    if (control.kind == ControlKind::ComboBox) {
-        control.listIndex = -1;
-        for (std::size_t i = 0; i < control.entries.size(); ++i)
-            if (control.entries[i] == text) {
-                control.listIndex = static_cast<int>(i);
-                break;
-            }
-    }
+    // Typing leaves a combo box without a selected entry, even when the text
+    // equals one: as in the host's combo box with its list closed, only
+    // picking selects.
+    if (control.kind == ControlKind::ComboBox) control.listIndex = -1;
     Changed(control);
     return true;
 }

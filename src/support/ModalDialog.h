@@ -48,8 +48,9 @@ public:
     // The control of that name, or null.
     const DialogControl* Find(std::string_view name) const noexcept;
 
-    // A person types `text` into a text box or combo box (its Change event).
-    // False, and nothing happens, for a missing, disabled or read-only
+    // A person types `text` into a text box or combo box (its Change event);
+    // a combo box is left with no selected entry, also when the text equals
+    // one. False, and nothing happens, for a missing, disabled or read-only
     // control or one of another kind.
     bool SetText(std::string_view control, const std::string& text);
     // A person picks entry `index` (0-based) of a list or combo box (its
