@@ -8,6 +8,7 @@
 #include "designer/access/AccessObjects.h"
 #include "designer/dialogs/frmAttachments.h"
 #include "designer/dialogs/frmFieldValues.h"
+#include "designer/dialogs/GroupsResult.h"
 #include "designer/dialogs/frmGroups.h"
 #include "grid/HeadlessGrid.h"
 #include "grid/Properties.h"
