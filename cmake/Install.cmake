@@ -13,6 +13,7 @@ install(FILES ${PROJECT_SOURCE_DIR}/data/messages.xml DESTINATION ${CMAKE_INSTAL
 
 if(TARGET flowloom)
   install(TARGETS flowloom RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(TARGETS markuploom RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})  # found beside the designer
   install(FILES ${PROJECT_SOURCE_DIR}/data/flowloom.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
   install(FILES ${PROJECT_SOURCE_DIR}/src/designer/resources/ICON/process.png
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/48x48/apps RENAME flowloom.png)
