@@ -172,6 +172,8 @@ private:
         std::snprintf(entry.object_name, sizeof entry.object_name, "%s", name.c_str());
         open.table.reset(mdb_read_table(&entry));
         if (!open.table || open.table->num_cols != columns) return std::nullopt;
+        // An empty usage map comes back as null, which libmdb's row walk reads all the same.
+        if (!open.table->usage_map || open.table->map_sz == 0) return std::nullopt;
         if (!mdb_read_columns(open.table.get()) || open.table->columns->len != columns) return std::nullopt;
         return open;
     }

@@ -89,6 +89,28 @@ TEST_F(UnreadableDatabases, GarbageOverTheSystemTable) {
     EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
 }
 
+// The usage map of MSysObjects pointed at an empty row: the row after its
+// own (row 0 of its page in both files), moved onto the start of row 0.
+void EmptyTheSystemTablesUsageMap(const std::string& file, std::uint32_t pageSize) {
+    const std::string bytes = ReadBytes(file);
+    const std::uint64_t usageMapAt = 2 * pageSize + (pageSize == 2048 ? 35 : 55);
+    ASSERT_EQ(bytes[usageMapAt], 0) << "the map is row 0 of its page";
+    const std::uint64_t page = (static_cast<std::uint8_t>(bytes[usageMapAt + 1]) |
+                                static_cast<std::uint8_t>(bytes[usageMapAt + 2]) << 8) * std::uint64_t{pageSize};
+    const std::uint64_t rowOffsetsAt = page + (pageSize == 2048 ? 8 : 12) + 2;
+    Overwrite(file, rowOffsetsAt + 2, bytes.substr(rowOffsetsAt, 2));
+    Overwrite(file, usageMapAt, "\x01");
+}
+
+TEST_F(UnreadableDatabases, AnEmptyUsageMapOfTheSystemTable) {
+    const std::string jet3 = Copy(Nwind(), "map.mdb");
+    EmptyTheSystemTablesUsageMap(jet3, 2048);
+    ExpectNothingFrom(jet3);
+    const std::string ace = Copy(Sample(), "map.accdb");
+    EmptyTheSystemTablesUsageMap(ace, 4096);
+    ExpectNothingFrom(ace);
+}
+
 TEST_F(UnreadableDatabases, GarbageAnywhereIsReadQuietly) {
     std::mt19937 random(11);
     for (int round = 0; round < 12; ++round) {
