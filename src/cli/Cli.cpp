@@ -29,6 +29,13 @@ const char* const kHelp =
     "                            print the macro that runs PROCESS: \"classes\" (the default)\n"
     "                            rebuilds the process object by object, \"xml\" loads it by\n"
     "                            name from FILE at run time\n"
+    "  objects DBFILE            print the forms, tables, queries and reports of the Access\n"
+    "                            database DBFILE: four lines 'Forms: ', 'Tables: ', 'Queries: ',\n"
+    "                            'Reports: ', each with its names joined by ';' in the order of\n"
+    "                            the system table, system and hidden objects left out\n"
+    "  fields DBFILE TABLE       print the fields of TABLE (case does not matter) joined by\n"
+    "                            ';', auto-increment fields left out; exit 1 when there is no\n"
+    "                            such table\n"
     "  parse-command-line TEXT   parse TEXT as the designer's command line and print\n"
     "                            xmlfile, process, activeobject and fields, one per line\n"
     "  show FILE PROCESS [ITEM]  print the property sheet of PROCESS or of one of its items:\n"
@@ -57,7 +64,8 @@ const char* const kHelp =
     "Exit codes: 0 success (verify: nothing found), 1 the command ran and found a\n"
     "problem (verify: findings; save: the new content did not reach OUT; any\n"
     "command whose load had to rewrite the file and could not), 2 bad arguments,\n"
-    "an unknown process or a file that could not be read.\n"
+    "an unknown process or a file that could not be read (objects, fields: no\n"
+    "readable Access database).\n"
     "\n"
     "Session script lines (empty lines and lines starting with # are skipped):\n"
     "  answers, queued for the prompt they answer:\n"
@@ -162,6 +170,8 @@ int Save(Context& ctx) {
 }  // namespace
 
 int ParseCommandLineCommand(const std::vector<std::string>& args, std::ostream& out, std::ostream& err);
+int ObjectsCommand(Context& ctx);
+int FieldsCommand(Context& ctx);
 
 int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& err) {
     return Run(args, std::cin, out, err);
@@ -192,6 +202,8 @@ int Run(const std::vector<std::string>& args, std::istream& in, std::ostream& ou
         {"codegen", CodegenCommand},
         {"show", ShowCommand},
         {"set", SetCommand},
+        {"objects", ObjectsCommand},
+        {"fields", FieldsCommand},
         {"parse-command-line", [](Context& c) { return ParseCommandLineCommand(c.args, c.out, c.err); }},
         {"session",
          [&in](Context& c) { return RunSession({c.args.begin() + 1, c.args.end()}, in, c.out, c.err); }},

@@ -1,0 +1,46 @@
+// Opens arbitrary bytes as an Access database: the lists of objects, the
+// fields of every table the system table names, then the connections closed.
+#include "FuzzSupport.h"
+
+#include "designer/access/AccessConnection.h"
+#include "designer/access/AccessObjects.h"
+#include "support/VbError.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
+
+// Most mutations keep the file whole pages long (of the size its version byte
+// asks for), since the reader turns away anything else at once.
+extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
+                                               unsigned int seed) {
+    size = LLVMFuzzerMutate(data, size, maxSize);
+    if (seed % 10 == 0 || size <= 0x14) return size;
+    const std::size_t page = data[0x14] == 0 ? 2048 : 4096;
+    return size >= 3 * page ? size - size % page : size;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    namespace access = flowloom::access;
+    static const std::string file = (flowloom::fuzz::WorkFolder("fuzz-access") / "input.mdb").string();
+    flowloom::fuzz::WriteFile(file, std::string_view(reinterpret_cast<const char*>(data), size));
+
+    access::CAccessObjects objects;
+    std::string workgroup;
+    if (objects.GetObjects(file, workgroup, "", "", "")) {
+        for (const auto& table : objects.Tables()) (void)objects.FieldList(table, file, workgroup, "", "", "");
+        // System tables and hidden ones too: every local table definition the rows point at.
+        if (const auto connection = access::OpenDatabaseConnection(file, workgroup, "", "", ""))
+            if (const auto rows = connection->SystemObjects())
+                for (const auto& row : *rows)
+                    if (row.type == 1) (void)connection->Fields(row.name);
+        try {
+            (void)objects.TableList();
+        } catch (const flowloom::VbError&) {
+        }
+    }
+    access::CloseConnections();
+    return 0;
+}
