@@ -6,7 +6,9 @@
 #include "designer/HtmlDom.h"
 #include "designer/ListBoxData.h"
 #include "designer/MenuData.h"
+#include "designer/access/AccessObjects.h"
 #include "designer/editor/HtmlEditor.h"
+#include "grid/HeadlessGrid.h"
 #include "grid/PropertyEvents.h"
 #include "sheets/SheetHost.h"
 #include "support/ModalDialog.h"
@@ -26,12 +28,6 @@ class Processes;
 class SendMail;
 }  // namespace flowloom
 
-namespace flowloom::access {
-class CAccessObjects;
-}
-namespace flowloom::grid {
-class HeadlessGrid;
-}
 
 namespace flowloom::designer {
 

@@ -17,8 +17,12 @@
 
 namespace flowloom::test {
 
+// The shared test data beside the checkout when it is there, else the
+// copies the repository keeps of it.
 inline std::filesystem::path AccessTestData() {
-    return (SourceDir() / ".." / "shared" / "testdata" / "access").lexically_normal();
+    const auto shared = (SourceDir() / ".." / "shared" / "testdata" / "access").lexically_normal();
+    if (std::filesystem::is_directory(shared)) return shared;
+    return SourceDir() / "tests" / "data" / "access";
 }
 inline std::string Nwind() { return (AccessTestData() / "nwind.mdb").string(); }          // Jet 3, pages of 2048
 inline std::string Sample() { return (AccessTestData() / "ASampleDatabase.accdb").string(); }  // ACE, pages of 4096

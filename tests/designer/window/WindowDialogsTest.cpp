@@ -77,7 +77,7 @@ TEST_F(WindowTest, TheOptionsDialogShowsItsGroupsAndEscapeLeavesTheOptionsAsThey
         EXPECT_TRUE(grid->isVisible());
         groups->setCurrentRow(2);  // Contact
         Settle();
-        EXPECT_EQ(grid->Rows().Count(), 6);
+        EXPECT_EQ(grid->Properties().Count(), 6);
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
     QAction* options = Window().ActionNamed("mnuToolsOptions");
