@@ -76,11 +76,5 @@ TEST_F(AccessCommands, EachCommandClosesItsConnections) {
     EXPECT_EQ(access::CachedConnections(), 0u);
 }
 
-TEST_F(AccessCommands, TheHelpNamesTheCommands) {
-    EXPECT_EQ(Run({"--help"}), 0);
-    EXPECT_THAT(out.str(), HasSubstr("objects DBFILE"));
-    EXPECT_THAT(out.str(), HasSubstr("fields DBFILE TABLE"));
-}
-
 }  // namespace
 }  // namespace flowloom::test

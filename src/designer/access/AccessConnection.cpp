@@ -144,7 +144,8 @@ public:
         const GPtrArray& columns = *open->table->columns;
         for (guint i = 0; i < columns.len; ++i) {
             const auto* column = static_cast<const MdbColumn*>(g_ptr_array_index(&columns, i));
-            fields.push_back({std::string(column->name, strnlen(column->name, sizeof column->name)), IsAutoIncrement(*column)});
+            fields.push_back({std::string(column->name, strnlen(column->name, sizeof column->name)),
+                              IsAutoIncrement(*column)});
         }
         return fields;
     }

@@ -93,10 +93,11 @@ inline std::string RenamedSample(const std::filesystem::path& target) {
     return file;
 }
 
-// The standard output of a shell command; nullopt when it could not run or
-// failed (a program that is not installed).
+// The standard output of a shell command, run under a UTF-8 locale (mdbtools'
+// programs write names in the locale's character set); nullopt when it could
+// not run or failed (a program that is not installed).
 inline std::optional<std::string> CommandOutput(const std::string& command) {
-    FILE* pipe = ::popen((command + " 2>/dev/null").c_str(), "r");
+    FILE* pipe = ::popen(("LC_ALL=C.UTF-8 " + command + " 2>/dev/null").c_str(), "r");
     if (!pipe) return std::nullopt;
     std::string output;
     char buffer[4096];

@@ -37,9 +37,7 @@ TEST(SystemObjects, PrefixesHideOnlyTheirKindsAndOnlyInTheirCase) {
     EXPECT_EQ(ClassifyObject(-32768, "~sq_Form"), ObjectList::Forms);
     EXPECT_EQ(ClassifyObject(-32764, "USysReport"), ObjectList::None);
     EXPECT_EQ(ClassifyObject(-32764, "MSysReport"), ObjectList::Reports);
-}
-
-TEST(SystemObjects, ThePrefixIsTheWholeFirstFourCharacters) {
+    // The prefix is the whole of the first four characters.
     EXPECT_EQ(ClassifyObject(1, "MSys"), ObjectList::None);
     EXPECT_EQ(ClassifyObject(1, "MSy"), ObjectList::Tables);
     EXPECT_EQ(ClassifyObject(1, ""), ObjectList::Tables);
