@@ -78,7 +78,8 @@ bool frmDesigner::DialogAction(const std::string& control, const char* event, Ac
     bool acted = false;
     // A dialog has no report of its own: what escapes a handler is reported
     // under the dialog and the control, and the dialog stays usable.
-    Guarded(dialogForm_, control + event, [&] { acted = action(*dialog_); });
+    // A handler that failed half-way has still taken the action.
+    if (!Guarded(dialogForm_, control + event, [&] { acted = action(*dialog_); })) acted = true;
     FinishDialogIfClosed();
     return acted;
 }

@@ -30,6 +30,8 @@ const std::string kTool = MARKUPLOOM_PROGRAM;
 class MarkuploomTest : public ::testing::Test {
 protected:
     static void SetUpTestSuite() {
+        // The tool inherits the platform: no display is needed.
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
         if (!QCoreApplication::instance()) app_ = std::make_unique<QCoreApplication>(argc_, argv_);
     }
     // Before the static objects of the toolkit go.
