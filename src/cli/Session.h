@@ -72,6 +72,8 @@ private:
     grid::HeadlessGrid& RowGrid();
     bool ClickRow(int index);
     void Browse(int index);
+    // Opens the drop list of row N and prints its entries.
+    void Drop(int index);
     // The dialog actions; false when the verb is none of them.
     bool DialogAct(const std::string& verb, const std::string& rest);
     // Whether the window can take the action now: a modal dialog or a

@@ -105,7 +105,8 @@ bool Session::Blocked(const std::string& verb) const {
     if (verb == "dump" || verb == "xml") return false;
     const bool dialog = designer_.OpenDialog() != nullptr;
     // A dialog's own grid takes row edits and its browse buttons.
-    if (dialog && designer_.OpenDialogGrid() && (verb == "row" || verb == "browse")) return !designer_.Enabled();
+    if (dialog && designer_.OpenDialogGrid() && (verb == "row" || verb == "browse" || verb == "drop"))
+        return !designer_.Enabled();
     return dialog || !designer_.Enabled();
 }
 
@@ -153,6 +154,16 @@ bool Session::ClickRow(int index) {
     // The press gives the grid the focus; the grid then selects the row.
     designer_.GridRowClick(index);
     return grid_.ClickRow(index, [this] { designer_.PropList_Click(); });
+}
+
+void Session::Drop(int index) {
+    ClickRow(index);
+    grid::HeadlessGrid& grid = RowGrid();
+    if (index > grid.Rows().Count()) return;  // the click rebuilt the sheet
+    std::string line = "drop: row " + std::to_string(index) + ":";
+    const auto entries = grid.DropEntries(grid.Rows().Item(index));
+    for (std::size_t i = 0; i < entries.size(); ++i) line += (i == 0 ? " " : " | ") + entries[i];
+    out_ << line << '\n';
 }
 
 void Session::Browse(int index) {
@@ -226,6 +237,7 @@ void Session::Act(const std::string& verb, const Words& words) {
              s.grid_.ClickRow(row, [&s] { s.designer_.PropList_Click(); });
          }},
         {"browse", 1, "browse N", [](Session& s, const Words& w) { s.Browse(Number(w[0])); }},
+        {"drop", 1, "drop N", [](Session& s, const Words& w) { s.Drop(Number(w[0])); }},
         {"close", 0, "close", [](Session& s, const Words&) { s.designer_.Form_Unload(); }},
         {"dump", 0, "dump", [](Session& s, const Words&) { s.Dump(); }},
         {"xml", 0, "xml", [](Session& s, const Words&) { s.Xml(); }},

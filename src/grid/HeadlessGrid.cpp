@@ -62,6 +62,13 @@ void HeadlessGrid::PressBrowse(Property& row) {
     if (alive && selected_ == &row) row.SetValue(fill);
 }
 
+std::vector<std::string> HeadlessGrid::DropEntries(Property& row) {
+    if (row.ListItems()) return *row.ListItems();
+    std::vector<std::string> entries;
+    if (events_) events_->NeedData(row, entries);
+    return entries;
+}
+
 std::string HeadlessGrid::ShownText(Property& row) {
     std::string shown = row.value();
     if (row.UseCustomData() && events_) events_->QueryCustomData(row, shown);

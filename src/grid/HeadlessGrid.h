@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace flowloom::grid {
 
@@ -39,6 +40,9 @@ public:
     // with the row's value, which the row takes back afterwards if it is
     // still selected.
     void PressBrowse(Property& row);
+    // The entries the row's drop list shows: its list items, or what the
+    // NeedData event gives for a row without them.
+    std::vector<std::string> DropEntries(Property& row);
     // The text the row shows, asking the events for custom data.
     std::string ShownText(Property& row);
 

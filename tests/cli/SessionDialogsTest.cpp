@@ -3,6 +3,8 @@
 // the tool's end leave in the model.
 #include "SessionFixture.h"
 
+#include "designer/access/AccessTestFiles.h"
+
 #include <gmock/gmock.h>
 
 #include <filesystem>
@@ -112,6 +114,46 @@ TEST_F(SessionDialogs, OptionsAreEditedOnACopyThatOkGivesToTheFile) {
               "changed: no\n"
               "changed: yes\n");
     EXPECT_NE(out.str().find("<Contact UserContactName=\"Anne\" UserContactEmail"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace flowloom::test
+
+namespace flowloom::test {
+namespace {
+
+// The example on a real Access file: the lists of the sheets and the field
+// values dialog come from the file.
+class SessionDatabase : public SessionDialogs {
+protected:
+    std::string ExampleOnNwind() {
+        std::string xml = ReadAll(SourceDir() / "examples/letters.xml");
+        const std::string location = "C:\\Northwind\\nwind.mdb";
+        xml.replace(xml.find(location), location.size(), Nwind());
+        return File("nwind-letters.xml", xml);
+    }
+};
+
+TEST_F(SessionDatabase, ObjectAndTableListsComeFromTheFile) {
+    EXPECT_EQ(Session({"-xmlfile", ExampleOnNwind()}, "cell datasource 1 1\ndrop 4\ncell activity 18 0\ndrop 4\n"), 0);
+    EXPECT_EQ(Pick({"drop"}),
+              "drop: row 4: Order Details | Orders | Products | Shippers | Categories | Customers | Employees | "
+              "Suppliers | Umsätze\n"
+              "drop: row 4: Order Details | Orders | Products | Shippers | Categories | Customers | Employees | "
+              "Suppliers | Umsätze\n");
+}
+
+TEST_F(SessionDatabase, AnAddRecordOffersTheFieldsOfItsTableWithoutTheAutoNumber) {
+    EXPECT_EQ(Session({"-xmlfile", ExampleOnNwind()},
+                      "cell activity 18 0\nrow 4 \nbrowse 5\nrow 4 Shippers\nbrowse 5\ndump\n"
+                      "dialog-set cboValue [Shipper]\ndialog-click cmdFieldValueAdd\ndialog-click cmdOK\ndump\n"),
+              0);
+    EXPECT_EQ(Pick({"message", "dialog", "control cboField", "row 5"}),
+              "message: Please select a table first.\n"
+              "row 5: FieldValues | Field Values | 11 | CompanyName\\nPhone {(Data)} | locked |\n"
+              "dialog: FieldValues\n"
+              "control cboField: combo | CompanyName | [*CompanyName | Phone]\n"
+              "row 5: FieldValues | Field Values | 11 | CompanyName = [Shipper] {(Data)} | locked |\n");
 }
 
 }  // namespace
