@@ -3,6 +3,7 @@
 #include "app/Common.h"
 
 #include <filesystem>
+#include <system_error>
 
 namespace flowloom::cli {
 
@@ -19,6 +20,11 @@ std::string FileSwitch(const std::string& arguments) {
 }
 
 }  // namespace
+
+SessionToolLauncher::~SessionToolLauncher() {
+    std::error_code ignored;
+    if (running_ && !file_.empty()) std::filesystem::remove(file_, ignored);
+}
 
 bool SessionToolLauncher::Start(const std::string& program, const std::string& arguments) {
     out_ << "tool: " << std::filesystem::path(program).filename().string() << arguments << '\n';

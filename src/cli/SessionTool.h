@@ -14,6 +14,10 @@ namespace flowloom::cli {
 class SessionToolLauncher : public ToolLauncher {
 public:
     explicit SessionToolLauncher(std::ostream& out) : out_(out) {}
+    // A session that ends while the tool "runs" leaves no exchange file.
+    ~SessionToolLauncher() override;
+    SessionToolLauncher(const SessionToolLauncher&) = delete;
+    SessionToolLauncher& operator=(const SessionToolLauncher&) = delete;
 
     bool Start(const std::string& program, const std::string& arguments) override;
     std::optional<std::string> WaitForWindow(int milliseconds) override;

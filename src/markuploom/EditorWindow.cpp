@@ -62,7 +62,11 @@ QString EditorWindow::TitleFor(bool plainText) {
 void EditorWindow::BuildMenus() {
     QMenu* file = menuBar()->addMenu(tr("&File"));
     QAction* close = file->addAction(tr("&Close"), this, &QWidget::close);
-    close->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_W), QKeySequence::Close});
+    // The platform's Close keys often include Ctrl+W already; a key bound
+    // twice would be ambiguous and do nothing.
+    QList<QKeySequence> closeKeys = QKeySequence::keyBindings(QKeySequence::Close);
+    if (!closeKeys.contains(QKeySequence(Qt::CTRL | Qt::Key_W))) closeKeys.prepend(QKeySequence(Qt::CTRL | Qt::Key_W));
+    close->setShortcuts(closeKeys);
     if (!rich_) return;
     QMenu* view = menuBar()->addMenu(tr("&View"));
     sourceAction_ = view->addAction(tr("HTML &Source"));

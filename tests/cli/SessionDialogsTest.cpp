@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 namespace flowloom::test {
@@ -95,8 +96,18 @@ TEST_F(SessionDialogs, TheMailBodyGoesThroughTheToolAndBack) {
 }
 
 TEST_F(SessionDialogs, WithoutTheToolTheBodyStaysAsItWas) {
+    // The exchange file is written before the tool is looked for, and stays.
+    const char* tmp = std::getenv("TMPDIR");
+    const std::string previous = tmp ? tmp : "";
+    setenv("TMPDIR", folder.Path().c_str(), 1);
     EXPECT_EQ(Session({"-xmlfile", Example()}, "cell activity 12 0\nbrowse 9\ndump\n"), 0);
+    if (tmp) setenv("TMPDIR", previous.c_str(), 1);
+    else unsetenv("TMPDIR");
     EXPECT_EQ(Pick({"message", "tool", "enabled"}), "message: Markuploom.exe not found!\n");
+    int exchangeFiles = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
+        exchangeFiles += entry.path().filename().string().rfind("vlk", 0) == 0;
+    EXPECT_EQ(exchangeFiles, 1);
 }
 
 TEST_F(SessionDialogs, OptionsAreEditedOnACopyThatOkGivesToTheFile) {
