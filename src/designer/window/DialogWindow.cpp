@@ -33,6 +33,8 @@ DialogWindow::DialogWindow(frmDesigner& core, ModalDialog& dialog, QWidget* grid
         widgets_[control.name] = widget;
         const ControlCell& cell = control.cell;
         layout->addWidget(widget, cell.row, cell.column, cell.rowSpan, cell.columnSpan);
+        // A grid takes the room the dialog gets when it grows.
+        if (control.kind == ControlKind::Grid) layout->setColumnStretch(cell.column, 2);
     }
     Sync();
     // A tool the dialog starts from its grid disables it without a word to

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace flowloom::grid {
@@ -205,7 +206,14 @@ void PropertyList::SetDialogs(std::unique_ptr<GridDialogs> dialogs) { dialogs_ =
 
 void PropertyList::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    if (selected_) ReshowEditors();
+    if (selected_) {
+        ReshowEditors();
+        // The layout sizes the list inside only after this event (a grid that
+        // a dialog lays out): place the editors again once it has.
+        QTimer::singleShot(0, this, [this] {
+            if (selected_) ReshowEditors();
+        });
+    }
     if (list_->ScrollsHorizontally() || dividerPlacement_ == 1) Refresh();
     emit Resize();
 }
