@@ -106,7 +106,7 @@ bool Session::Blocked(const std::string& verb) const {
     const bool dialog = designer_.OpenDialog() != nullptr;
     // A dialog's own grid takes row edits and its browse buttons.
     if (dialog && designer_.OpenDialogGrid() && (verb == "row" || verb == "browse" || verb == "drop"))
-        return !designer_.Enabled();
+        return !designer_.Enabled() || !designer_.OpenDialog()->Enabled();
     return dialog || !designer_.Enabled();
 }
 
@@ -118,6 +118,10 @@ bool Session::DialogAct(const std::string& verb, const std::string& rest) {
     }
     if (verb.rfind("dialog-", 0) != 0) return false;
     if (!designer_.OpenDialog()) throw ScriptError("no dialog is open");
+    if (!designer_.OpenDialog()->Enabled()) {
+        out_ << "blocked: " << verb << '\n';
+        return true;
+    }
     const std::size_t blank = rest.find(' ');
     const std::string control = rest.substr(0, blank);
     const std::string argument = blank == std::string::npos ? std::string() : rest.substr(blank + 1);

@@ -153,7 +153,8 @@ void WriteDump(designer::frmDesigner& designer, grid::HeadlessGrid& grid, std::o
 void WriteDialog(designer::frmDesigner& designer, std::ostream& out) {
     const ModalDialog* dialog = designer.OpenDialog();
     if (!dialog) return;
-    Line(out, "dialog", dialog->Caption());
+    // A dialog waiting for its tool takes no input.
+    Line(out, "dialog", dialog->Enabled() ? dialog->Caption() : dialog->Caption() + " | disabled");
     for (const DialogControl& control : dialog->Controls()) {
         std::string text;
         switch (control.kind) {

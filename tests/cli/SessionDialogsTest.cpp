@@ -169,3 +169,23 @@ TEST_F(SessionDatabase, AnAddRecordOffersTheFieldsOfItsTableWithoutTheAutoNumber
 
 }  // namespace
 }  // namespace flowloom::test
+
+namespace flowloom::test {
+namespace {
+
+TEST_F(SessionDialogs, AMailTemplateOfTheOptionsGoesThroughTheTool) {
+    PlaceTool();
+    EXPECT_EQ(Session({"-xmlfile", Example()},
+                      "menu mnuToolsOptions\nbrowse 2\ndump\ndialog-click cmdOK\nrow 3 Plain text\n"
+                      "tool-close Dear [ContactName],\\nbye\ndialog-click cmdOK\nxml\n"),
+              0);
+    // While the tool runs the dialog takes nothing; its end writes the row.
+    EXPECT_THAT(Pick({"dialog", "blocked", "tool"}),
+                ::testing::MatchesRegex("tool: markuploom /p /file \"[^\"]*vlk[0-9]{9}\\.htm\"\n"
+                                        "tool: running\ndialog: Options \\| disabled\n"
+                                        "blocked: dialog-click\nblocked: row\n"));
+    EXPECT_NE(out.str().find("DefaultEmailTemplatePlainText=\"Dear [ContactName],&#13;&#10;bye\""), std::string::npos);
+}
+
+}  // namespace
+}  // namespace flowloom::test
