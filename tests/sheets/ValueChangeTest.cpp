@@ -125,8 +125,7 @@ TEST_F(ValueChange, ActivityCaptionsFollowTheDescription) {
     EXPECT_EQ(host.activity->Description(), "Fax it");
     EXPECT_TRUE(Edit(15, 1, ""));
     EXPECT_TRUE(Edit(15, 3, "[Fax]"));
-    host.activity = host.process->Activities()->Item(2);
-    Build(16);
+    BuildFor(16, 2);
     EXPECT_TRUE(Edit(16, 1, "  "));  // no different from the empty description: no caption
     EXPECT_TRUE(Edit(16, 1, "Log"));
     EXPECT_EQ(host.captions, (std::vector<std::string>{"Fax it", "Send Fax", "Log"}));
@@ -192,12 +191,10 @@ TEST_F(ValueChange, AnOutputNameThatExistsIsRefused) {
     EXPECT_TRUE(host.process->Documents()->Contains("Letter 2"));
     EXPECT_FALSE(host.process->Documents()->Contains("Letter"));
 
-    host.activity = host.process->Activities()->Item(2);
-    Build(13);
+    BuildFor(13, 2);
     EXPECT_FALSE(Edit(13, 3, "Mail"));
     EXPECT_EQ(ReportedProcedure(), "ConvertChange");
-    host.activity = host.process->Activities()->Item(3);
-    Build(14);
+    BuildFor(14, 3);
     EXPECT_FALSE(Edit(14, 3, "Letter 2"));
     EXPECT_EQ(ReportedProcedure(), "SendMailChange");
 }
