@@ -23,14 +23,6 @@ TEST_F(Cli, XmlWritesTheFileBackByteForByte) {
     EXPECT_EQ(out.str(), ReadAll(path));
 }
 
-TEST_F(Cli, SaveWritesOut) {
-    const auto target = folder / "copy.xml";
-    EXPECT_EQ(Run({"save", Example(), target.string()}), 0);
-    EXPECT_EQ(ReadAll(target), ReadAll(SourceDir() / "examples/letters.xml"));
-    EXPECT_EQ(Run({"save", Example(), (folder / "missing" / "x.xml").string()}), 1);
-    EXPECT_NE(err.str().find("message: The folder '"), std::string::npos);
-}
-
 TEST_F(Cli, MissingFileIsAnErrorLineAndExitTwo) {
     const std::string path = (folder / "none.xml").string();
     EXPECT_EQ(Run({"list", path}), 2);
