@@ -23,14 +23,6 @@ TEST_F(Cli, XmlWritesTheFileBackByteForByte) {
     EXPECT_EQ(out.str(), ReadAll(path));
 }
 
-TEST_F(Cli, SaveWritesOut) {
-    const auto target = folder / "copy.xml";
-    EXPECT_EQ(Run({"save", Example(), target.string()}), 0);
-    EXPECT_EQ(ReadAll(target), ReadAll(SourceDir() / "examples/letters.xml"));
-    EXPECT_EQ(Run({"save", Example(), (folder / "missing" / "x.xml").string()}), 1);
-    EXPECT_NE(err.str().find("message: The folder '"), std::string::npos);
-}
-
 TEST_F(Cli, MissingFileIsAnErrorLineAndExitTwo) {
     const std::string path = (folder / "none.xml").string();
     EXPECT_EQ(Run({"list", path}), 2);
@@ -68,10 +60,6 @@ TEST_F(Cli, ParseCommandLinePrintsTheFourValues) {
     EXPECT_EQ(Run({"parse-command-line", R"(-xmlfile "C:\My Files\a.xml" /PROCESS Letter one -activeobject Table;Orders)"}), 0);
     // The value of xmlfile ends at the first " -" outside quotes: "/" is only tried when "-" is not found.
     EXPECT_EQ(out.str(), "C:\\My Files\\a.xml\" /PROCESS Letter one\nLetter one\nTable;Orders\n\n");
-    EXPECT_EQ(Run({"parse-command-line", R"(/xmlfile "C:\My Files\a.xml" /PROCESS Letter one)"}), 0);
-    EXPECT_EQ(out.str(), "C:\\My Files\\a.xml\nLetter one\n\n\n");
-    EXPECT_EQ(Run({"parse-command-line", "-xmlfile"}), 0);
-    EXPECT_EQ(out.str(), "{empty}\n\n\n\n");
 }
 
 }  // namespace

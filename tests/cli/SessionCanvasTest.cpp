@@ -44,26 +44,16 @@ TEST_F(SessionCanvas, StripsAreTablesOfPicturesNamesAndConnectors) {
     const HtmlTable* databases = designer.Canvas(Strip::Database).getElementById("DatabaseTable");
     ASSERT_NE(databases, nullptr);
     ASSERT_EQ(databases->RowCount(), 2);
-    EXPECT_EQ(databases->cellSpacing, 0);
-    EXPECT_EQ(databases->rows(0).Align, "center");
     EXPECT_EQ(databases->rows(0).cells(0)->innerHTML, Picture("Database"));
-    const auto& name = *databases->rows(1).cells(0);
-    EXPECT_EQ(name.innerHTML, "Northwind");
-    EXPECT_EQ(name.Width, "60");
-    EXPECT_TRUE(name.noWrap);
+    EXPECT_EQ(databases->rows(1).cells(0)->innerHTML, "Northwind");
     EXPECT_TRUE(fs::exists(folder / "icons" / "Database.ico"));
 
     // Two activities: icon, caption, connector with the arrow, icon, caption.
     const HtmlTable* flow = designer.Canvas(Strip::Activity).getElementById("ActivityTable");
     ASSERT_NE(flow, nullptr);
     ASSERT_EQ(flow->RowCount(), 5);
-    EXPECT_EQ(flow->width, "100%");
-    EXPECT_EQ(flow->rows(0).Height, "36");
-    EXPECT_EQ(flow->rows(0).cells(0)->Width, "100%");
     EXPECT_EQ(flow->rows(0).cells(0)->innerHTML, Picture("MailMerge"));
     EXPECT_EQ(flow->rows(1).cells(0)->innerHTML, "Mail Merge");
-    EXPECT_EQ(flow->rows(2).Height, "8");
-    EXPECT_EQ(flow->rows(2).cells(0)->Height, "10");
     EXPECT_EQ(flow->rows(2).cells(0)->innerHTML, Picture("ArrowDown"));
     EXPECT_EQ(flow->rows(3).cells(0)->innerHTML, Picture("SendFax"));
     EXPECT_EQ(flow->rows(4).cells(0)->innerHTML, "Fax the confirmation");

@@ -43,21 +43,6 @@ TEST_F(SessionEdit, CaptionsOnTheCanvasFollowTheNames) {
               "Mail the reminder with its PDF | Print the file copy | Log each reminder\n");
 }
 
-TEST_F(SessionEdit, MailMergeToWordShowsTheDocumentRowsTwice) {
-    EXPECT_EQ(Session({"-xmlfile", Example(), "-process", "Monthly sales sheet"},
-                      "cell activity 0 0\nrow 2 Microsoft Word\ndump\ncell activity 3 0\ncell activity 0 0\ndump\n"),
-              0);
-    const std::string rows = Pick({"row 10", "row 11", "row 12", "row 13", "row 14"});
-    EXPECT_EQ(rows,
-              "row 10: PrecededBy | Preceded By | 5 |  | free |\n"
-              "row 11: SucceededBy | Succeeded By | 5 |  | free |\n"
-              "row 12: PrecededBy | Preceded By | 5 |  | free |\n"
-              "row 13: SucceededBy | Succeeded By | 5 |  | free |\n"
-              // Selected again, the sheet has the pair once.
-              "row 10: PrecededBy | Preceded By | 5 |  | free |\n"
-              "row 11: SucceededBy | Succeeded By | 5 |  | free |\n");
-}
-
 TEST_F(SessionEdit, AnotherInputDocumentRebuildsTheSheetWithItsRowSelected) {
     Catalogue({{"SaveAs.InputDocumentName", "The document to save"}});
     EXPECT_EQ(Session({"-xmlfile", Example()}, "cell activity 3 0\nrow 2 Reminder mail\ndump\n"), 0);

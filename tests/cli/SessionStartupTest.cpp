@@ -9,7 +9,9 @@ using SessionStartup = SessionFixture;
 
 TEST_F(SessionStartup, NoArgumentsShowsANewFileWithOneNewProcess) {
     EXPECT_EQ(Session({}, "dump\n"), 0);
-    EXPECT_EQ(out.str(),
+    // The process sheet's rows between are the sheet tests' business.
+    EXPECT_EQ(Pick({"caption", "list", "list-mark", "database", "datasource", "activity", "sheet", "row 1", "row 8",
+                    "info", "changed", "clipboard", "active-object"}),
               "caption: Flowloom - New XML file\n"
               "list: *<New Process>\n"
               "list-mark: on\n"
@@ -18,13 +20,6 @@ TEST_F(SessionStartup, NoArgumentsShowsANewFileWithOneNewProcess) {
               "activity:\n"
               "sheet: 1\n"
               "row 1: Name | Name | 0 |  | free |\n"
-              "row 2: ProcessRecords | Process Records | 5 | 0 - Current Record | locked | "
-              "0 - Current Record;1 - All Records\n"
-              "row 3: MainDatasourceName | Main Datasource Name | 5 |  | free |\n"
-              "row 4: AbortOnError | Abort On Error | 2 | True | locked |\n"
-              "row 5: OnErrorNotifyUser | On Error Notify User | 2 | True | locked |\n"
-              "row 6: Groups | Groups | 3 | (None) {(None)} | locked |\n"
-              "row 7: FieldValues | Field Values | 11 |  {(None)} | locked |\n"
               "row 8: LogDatasourceName | Log Datasource Name | 5 |  | free |\n"
               "info:\n"
               "changed: no\n"

@@ -126,6 +126,11 @@ protected:
         sheets::BuildSheet(kind, host, rows);
         return rows;
     }
+    // Selects the activity at `position` (1-based) and builds its sheet of `kind`.
+    grid::Properties& BuildFor(int kind, std::int32_t position) {
+        host.activity = host.process->Activities()->Item(position);
+        return Build(kind);
+    }
     const std::string& Value(std::int32_t index) const { return rows.Item(index).value(); }
     // Commits `text` into a row of the sheet of `kind` on show, as the grid
     // does: false when refused; an accepted row takes the text the handler left.

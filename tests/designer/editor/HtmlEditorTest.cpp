@@ -122,6 +122,7 @@ TEST_F(HtmlEditorTest, TempFileIsANumberedHtmFileInTheTemporaryFolder) {
 
 TEST_F(HtmlEditorTest, StartsTheToolOnTheWrittenFileAndWatchesIt) {
     const std::string tool = ToolBesideProgram();
+    WriteAll(file, std::string(5000, 'x'));  // a longer file before is replaced
     std::string text = "<html><body>Hi</body></html>";
     const ToolWindow window = Open(text, false, "mode=1", true);
 
@@ -158,14 +159,6 @@ TEST_F(HtmlEditorTest, PlainTextGetsItsLineEndsMarked) {
     EXPECT_EQ(ReadAll(file), marked + "\r\n");
     EXPECT_EQ(launcher.starts.at(0).arguments, " /p /file \"" + file + "\"");
     EXPECT_EQ(MarkLineEnds("no line ends"), "no line ends");
-}
-
-TEST_F(HtmlEditorTest, AnExistingFileIsReplaced) {
-    ToolBesideProgram();
-    WriteAll(file, std::string(5000, 'x'));
-    std::string text = "short";
-    ASSERT_NE(Open(text), 0);
-    EXPECT_EQ(ReadAll(file), "short\r\n");
 }
 
 TEST_F(HtmlEditorTest, AFileThatCannotBeWrittenIsReportedAndNothingStarts) {
@@ -228,31 +221,19 @@ TEST_F(HtmlEditorTest, NoToolsFolderWithoutAnExistingFirstDatabase) {
     EXPECT_EQ(prompts.boxes[0].prompt, "Markuploom.exe not found!");
 }
 
-TEST_F(HtmlEditorTest, AToolWithoutAWindowTimesOut) {
-    ToolBesideProgram();
-    launcher.laterTitle = std::nullopt;
-    std::string text = "Body";
-    EXPECT_EQ(Open(text), 0);
-
-    EXPECT_EQ(launcher.waits, std::vector<int>(201, 50));
-    ASSERT_EQ(prompts.errors.size(), 1u);
-    EXPECT_EQ(prompts.errors[0].number, 30065);
-    EXPECT_EQ(prompts.errors[0].description, "Timeout error occurred while trying to start HTML Editor");
-    EXPECT_EQ(prompts.errors[0].module, "mHTMLEditor");
-    EXPECT_EQ(prompts.errors[0].procedure, "OpenHtmlEditorOnTop");
-    EXPECT_TRUE(host.enabled);
-    EXPECT_EQ(host.interval, 0);
-    EXPECT_TRUE(fs::exists(file));
-}
-
-TEST_F(HtmlEditorTest, OnlyAnEditorTitleEndsTheWait) {
+TEST_F(HtmlEditorTest, OnlyAnEditorTitleEndsTheWaitWhichTimesOut) {
     ToolBesideProgram();
     launcher.laterTitle = "Untitled - Notepad";
     std::string text = "Body";
     EXPECT_EQ(Open(text), 0);
-    EXPECT_EQ(launcher.waits.size(), 201u);
+    EXPECT_EQ(launcher.waits, std::vector<int>(201, 50));
     ASSERT_EQ(prompts.errors.size(), 1u);
     EXPECT_EQ(prompts.errors[0].number, 30065);
+    EXPECT_EQ(prompts.errors[0].description, "Timeout error occurred while trying to start HTML Editor");
+    EXPECT_EQ(prompts.errors[0].procedure, "OpenHtmlEditorOnTop");
+    EXPECT_TRUE(host.enabled);
+    EXPECT_EQ(host.interval, 0);
+    EXPECT_TRUE(fs::exists(file));
 
     // A title that comes late, in any case, is the tool's.
     launcher.waits.clear();

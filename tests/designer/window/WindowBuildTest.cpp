@@ -101,13 +101,6 @@ TEST_F(WindowTest, OpeningAMenuTakesTheStatesOfItsEnablingRule) {
     Core().ListClick(2);
     emit process->aboutToShow();
     EXPECT_TRUE(remove->isEnabled());
-
-    // The activity menu looks at the selected cell: the first can only go down.
-    ClickCell(Strip::Activity, 0, 0);
-    emit Window().MenuNamed("mnuProcessActivity")->aboutToShow();
-    EXPECT_TRUE(Window().ActionNamed("mnuProcessActivityDelete")->isEnabled());
-    EXPECT_FALSE(Window().ActionNamed("mnuProcessActivityUp")->isEnabled());
-    EXPECT_TRUE(Window().ActionNamed("mnuProcessActivityDown")->isEnabled());
 }
 
 // The pixel rectangle the layout gives a control, relative to the client area below the toolbar.
