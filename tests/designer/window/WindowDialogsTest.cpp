@@ -3,6 +3,10 @@
 #include "WindowFixture.h"
 
 #include "designer/window/DialogWindow.h"
+#include "designer/window/QtToolLauncher.h"
+#include "grid/widget/RowListView.h"
+#include "support/AppPaths.h"
+#include "support/ToolLauncher.h"
 #include "grid/widget/PropertyList.h"
 #include "model/FieldValue.h"
 #include "model/Process.h"
@@ -15,6 +19,8 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QToolButton>
+
+#include <filesystem>
 
 namespace flowloom::designer::window::testing {
 namespace {
@@ -87,6 +93,43 @@ TEST_F(WindowTest, TheOptionsDialogShowsItsGroupsAndEscapeLeavesTheOptionsAsThey
     ASSERT_TRUE(shown);
     EXPECT_EQ(Core().OpenDialog(), nullptr);
     EXPECT_EQ(Core().CurrentProcesses()->XML(), before);
+}
+
+}  // namespace
+}  // namespace flowloom::designer::window::testing
+
+namespace flowloom::designer::window::testing {
+namespace {
+
+// The real tool beside the program: the window is disabled while it runs,
+// and its end gives the body back and enables the window again.
+TEST_F(WindowTest, TheMailBodyToolDisablesTheWindowUntilItEnds) {
+    const std::filesystem::path tool = MARKUPLOOM_PROGRAM;
+    SetProgramFolder(tool.parent_path());
+    ClickCell(Strip::Activity, 12, 0);  // the SendMail
+    grid::PropertyList& grid = Window().Grid();
+    const int top = ClickGridRow(grid, "Body");
+    ASSERT_GE(top, 0);
+    Settle();
+    grid::Property* body = grid.SelectedItem();
+    ASSERT_NE(body, nullptr);
+    // F4 presses the row's own "..." button, as a click on it does.
+    auto* list = grid.findChild<grid::RowListView*>();
+    ASSERT_NE(list, nullptr);
+    QTest::keyClick(list, Qt::Key_F4);
+    EXPECT_FALSE(Core().Enabled());
+    EXPECT_FALSE(Window().centralWidget()->isEnabled());
+
+    auto* launcher = dynamic_cast<QtToolLauncher*>(&CurrentToolLauncher());
+    ASSERT_NE(launcher, nullptr);
+    ASSERT_TRUE(launcher->Close());
+    for (int i = 0; i < 200 && !Core().Enabled(); ++i) QTest::qWait(50);
+    SetProgramFolder({});
+    EXPECT_TRUE(Core().Enabled());
+    EXPECT_TRUE(Window().centralWidget()->isEnabled());
+    // The tool wrote back the example's HTML template, now the body.
+    EXPECT_EQ(body->value(), "(HTML)");
+    EXPECT_TRUE(Core().HasUnsavedChanges());
 }
 
 }  // namespace
