@@ -17,24 +17,45 @@ extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, st
 // definition or a data page), in place; the others keep the file whole pages
 // long (of the size its version byte asks for), since the reader turns away
 // anything else at once.
+namespace {
+
+constexpr std::size_t kVersionByte = 0x14;  // 0 for Jet 3, whose pages are 2 KB
+constexpr std::size_t kStride = 7919;       // a prime, so that retries visit other pages
+
+std::size_t PageSize(const std::uint8_t* data, std::size_t size) {
+    return size > kVersionByte && data[kVersionByte] == 0 ? 2048 : 4096;
+}
+
+// Mutates a stretch of one table-definition or data page in place; false
+// when the file has no such page among the few tried.
+bool MutateOnePage(std::uint8_t* data, std::size_t size, unsigned int seed) {
+    const std::size_t page = PageSize(data, size);
+    const std::size_t pages = size / page;
+    if (pages < 2) return false;
+    for (std::size_t tries = 0; tries < 8; ++tries) {
+        const std::size_t chosen = 1 + (seed / 2 + tries * kStride) % (pages - 1);
+        std::uint8_t* at = data + chosen * page;
+        const bool parsedPage = at[0] == 1 || at[0] == 2;
+        if (!parsedPage) continue;
+        const std::size_t length = 1 + (seed >> 4) % page;
+        const std::size_t offset = (seed >> 2) % (page - length + 1);
+        LLVMFuzzerMutate(at + offset, length, length);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace
+
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
                                                unsigned int seed) {
-    const std::size_t page = size > 0x14 && data[0x14] == 0 ? 2048 : 4096;
-    const std::size_t pages = size / page;
-    if (seed % 2 == 0 && pages > 1) {
-        for (std::size_t tries = 0; tries < 8; ++tries) {
-            const std::size_t chosen = 1 + (seed / 2 + tries * 7919) % (pages - 1);
-            std::uint8_t* at = data + chosen * page;
-            if (at[0] != 1 && at[0] != 2) continue;
-            const std::size_t length = 1 + (seed / 16) % page;
-            const std::size_t start = (seed / 4) % (page - length + 1);
-            LLVMFuzzerMutate(at + start, length, length);
-            return size;
-        }
-    }
+    const bool intoOnePage = (seed & 1u) == 0;
+    if (intoOnePage && MutateOnePage(data, size, seed)) return size;
     size = LLVMFuzzerMutate(data, size, maxSize);
-    if (seed % 10 == 1 || size <= 0x14) return size;
-    const std::size_t wanted = data[0x14] == 0 ? 2048 : 4096;
+    // Now and then a file of any length; else whole pages of at least three.
+    const bool anyLength = seed % 10 == 1;
+    if (anyLength || size <= kVersionByte) return size;
+    const std::size_t wanted = PageSize(data, size);
     return size >= 3 * wanted ? size - size % wanted : size;
 }
 
