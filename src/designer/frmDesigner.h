@@ -61,7 +61,7 @@ enum class MenuResult { Chosen, Disabled, Hidden, NotOpen, Unknown };
 // The main window's logic: its state, its handlers and its commands. The
 // Qt window and the headless session both drive this one class: they turn a
 // person's mouse and keys into the calls below and show what it changed.
-class frmDesigner : public grid::PropertyEvents, private sheets::SheetHost, private editor::HtmlEditorHost {
+class frmDesigner : public grid::PropertyEventsIgnored, private sheets::SheetHost, private editor::HtmlEditorHost {
 public:
     frmDesigner(PropertyGridHost& grid, DesignerView& view);
     ~frmDesigner() override;
@@ -136,21 +136,11 @@ public:
     // --- the grid's events ---------------------------------------------
     void PropList_Click();
     void KeyDownEdit(int& KeyCode, int Shift) override;
-    void KeyPressEdit(int&) override {}
-    void KeyUpEdit(int, int) override {}
     void NeedData(grid::Property& iProp, std::vector<std::string>& sListItems) override;
     void SelChange(grid::Property* iPropOld, grid::Property* iPropNew) override;
     void ValueChanged(grid::Property& iProp, std::string& sNewValue, bool& Cancel) override;
     void QueryCustomData(grid::Property& iProp, std::string& sDisplayValue) override;
-    void GetPredefinedStrings(grid::Property&, std::vector<std::string>&) override {}
-    void ShowEditControl(grid::Property&, int, int, int, int, bool&) override {}
-    void HideEditControl() override {}
-    void Expand(grid::Property&) override {}
-    void Collapse(grid::Property&) override {}
-    void ODCommitPending(grid::Property&) override {}
     void Browse(grid::Property& iProp, std::string& sFillWith) override;
-    void DropdownPick(grid::Property&, int) override {}
-    void PreExpand(grid::Property&) override {}
     void cmdBrowse_Click();
 
     // --- dialogs and the mail-body tool -----------------------------------

@@ -31,7 +31,7 @@ bool PlainTextStyle(const std::string& shown, const Options* options) {
     const std::string lower = ToLower(shown);
     if (lower == "(html)") return false;
     if (lower == "(plain text)") return true;
-    if (sheets::IsFieldReference(lower)) return true;
+    if (lower.starts_with("[field:") && lower.ends_with("]")) return true;  // a field reference
     if (lower.empty()) return EqualsNoCase(OptionValue(options, "Email", "DefaultStyle"), "Plain text");
     return false;
 }

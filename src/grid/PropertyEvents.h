@@ -51,4 +51,26 @@ public:
     virtual void PreExpand(Property& iProp) = 0;
 };
 
+// The events an owner does not handle do nothing: an owner derives from this
+// and overrides only the events it answers.
+class PropertyEventsIgnored : public PropertyEvents {
+public:
+    void KeyDownEdit(int&, int) override {}
+    void KeyPressEdit(int&) override {}
+    void KeyUpEdit(int, int) override {}
+    void NeedData(Property&, std::vector<std::string>&) override {}
+    void SelChange(Property*, Property*) override {}
+    void ValueChanged(Property&, std::string&, bool&) override {}
+    void QueryCustomData(Property&, std::string&) override {}
+    void GetPredefinedStrings(Property&, std::vector<std::string>&) override {}
+    void ShowEditControl(Property&, int, int, int, int, bool&) override {}
+    void HideEditControl() override {}
+    void Expand(Property&) override {}
+    void Collapse(Property&) override {}
+    void ODCommitPending(Property&) override {}
+    void Browse(Property&, std::string&) override {}
+    void DropdownPick(Property&, int) override {}
+    void PreExpand(Property&) override {}
+};
+
 }  // namespace flowloom::grid

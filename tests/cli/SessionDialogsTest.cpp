@@ -95,6 +95,17 @@ TEST_F(SessionDialogs, TheMailBodyGoesThroughTheToolAndBack) {
     EXPECT_FALSE(std::filesystem::exists(file)) << file;
 }
 
+TEST_F(SessionDialogs, ABodyThatIsAFieldReferenceIsEditedAsPlainText) {
+    PlaceTool();
+    EXPECT_EQ(Session({"-xmlfile", Example()},
+                      "cell activity 12 0\nbrowse 9\ntool-close [Field:Notes]\nbrowse 9\ndump\ntool-close x\n"),
+              0);
+    const std::string picked = Pick({"tool", "row 9"});
+    EXPECT_EQ(picked.substr(0, picked.find(" /")), "tool: markuploom");  // the first start: HTML
+    EXPECT_NE(picked.find("\ntool: markuploom /p /file"), std::string::npos) << picked;
+    EXPECT_NE(picked.find("row 9: Body | Body | 3 | [Field:Notes] | locked |"), std::string::npos) << picked;
+}
+
 TEST_F(SessionDialogs, WithoutTheToolTheBodyStaysAsItWas) {
     // The exchange file is written before the tool is looked for, and stays.
     const char* tmp = std::getenv("TMPDIR");

@@ -41,7 +41,7 @@ std::vector<std::string> OptionsHelpKeys();
 // selected group and a help text for each. It edits a copy of the file's
 // options, which replaces them only on OK. The mail templates are edited in
 // the external tool, which the dialog watches through its timer.
-class frmOptions : public ModalDialog, public grid::PropertyEvents, public editor::HtmlEditorHost {
+class frmOptions : public ModalDialog, public grid::PropertyEventsIgnored, public editor::HtmlEditorHost {
 public:
     // `grid` shows the rows; its host routes the grid's events here.
     explicit frmOptions(grid::PropertyGridHost& grid);
@@ -91,22 +91,9 @@ public:
     void SetTimerInterval(int milliseconds) override { timerInterval_ = milliseconds; }
 
     // --- grid::PropertyEvents ----------------------------------------------
-    void KeyDownEdit(int&, int) override {}
-    void KeyPressEdit(int&) override {}
-    void KeyUpEdit(int, int) override {}
-    void NeedData(grid::Property&, std::vector<std::string>&) override {}
     void SelChange(grid::Property* iPropOld, grid::Property* iPropNew) override;
     void ValueChanged(grid::Property& iProp, std::string& sNewValue, bool& Cancel) override;
-    void QueryCustomData(grid::Property&, std::string&) override {}
-    void GetPredefinedStrings(grid::Property&, std::vector<std::string>&) override {}
-    void ShowEditControl(grid::Property&, int, int, int, int, bool&) override {}
-    void HideEditControl() override {}
-    void Expand(grid::Property&) override {}
-    void Collapse(grid::Property&) override {}
-    void ODCommitPending(grid::Property&) override {}
     void Browse(grid::Property& iProp, std::string& sFillWith) override;
-    void DropdownPick(grid::Property&, int) override {}
-    void PreExpand(grid::Property&) override {}
 
 protected:
     void Picked(DialogControl& control) override;
