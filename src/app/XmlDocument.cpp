@@ -111,22 +111,6 @@ pugi::xml_node ParseChild(const XmlOutline::Child& child, pugi::xml_document& do
     return document.document_element();
 }
 
-std::vector<pugi::xml_node> ParseChildren(const XmlOutline& outline, std::size_t first, std::size_t last,
-                                          pugi::xml_document& document, std::string& buffer) {
-    const std::string_view from = outline.children[first].text;
-    const std::string_view to = outline.children[last].text;
-    document.reset();
-    buffer.assign(from.data(), static_cast<std::size_t>(to.data() + to.size() - from.data()));
-    std::vector<pugi::xml_node> elements;
-    if (!document.load_buffer_inplace(buffer.data(), buffer.size(), kParseOptions | pugi::parse_fragment,
-                                      pugi::encoding_utf8))
-        return elements;
-    for (pugi::xml_node node = document.first_child(); node; node = node.next_sibling())
-        if (node.type() == pugi::node_element) elements.push_back(node);
-    if (elements.size() != last - first + 1) elements.clear();
-    return elements;
-}
-
 void XmlDocument::SetParseError(std::size_t offset, std::string reason, std::string_view text) {
     offset = std::min(offset, text.size());
     int line = 1;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/XmlCheck.h"
+#include "app/XmlElements.h"
 
 #include <pugixml.hpp>
 
@@ -63,13 +64,6 @@ private:
 // Parses one child of an outline into `document` (replacing what it held);
 // its element, or a null node when the text does not parse.
 pugi::xml_node ParseChild(const XmlOutline::Child& child, pugi::xml_document& document);
-// Parses the children first..last of an outline, with what stands between
-// them, into `document` at once, in place in `buffer` (which keeps its room
-// from call to call); their elements in order, or none when the text does
-// not parse.
-std::vector<pugi::xml_node> ParseChildren(const XmlOutline& outline, std::size_t first, std::size_t last,
-                                          pugi::xml_document& document, std::string& buffer);
-
 // The serialised text of one node (an element or a whole document). It is
 // well-formed whatever the tree holds: characters XML does not allow, and
 // bytes that are no UTF-8, become U+FFFD; an attribute whose name is no
@@ -84,55 +78,60 @@ bool NameIs(const pugi::xml_attribute& attribute, std::string_view name);
 bool NameIs(const pugi::xml_node& node, std::string_view name);
 bool NameIs(std::string_view text, std::string_view name);
 
-// An attribute as the readers walk it: its name fetched once, and the many
-// names a reader tries on it mostly told apart by their first letters
-// without a call.
+// An attribute as the readers walk it: its name measured once, so that the
+// many names a reader tries on it are mostly told apart by their length.
 class MeasuredAttribute {
 public:
-    explicit MeasuredAttribute(const pugi::xml_attribute& attribute)
-        : attribute_(attribute), name_(attribute.name()) {}
-    const char* name() const noexcept { return name_; }
-    const char* value() const { return attribute_.value(); }
-    operator const pugi::xml_attribute&() const noexcept { return attribute_; }  // NOLINT
-    // NameIs for this attribute.
+    explicit MeasuredAttribute(const XmlElementAttribute& attribute)
+        : name_(attribute.name()), value_(attribute.value()), ascii_(IsAsciiText(name_)) {}
+    std::string_view name() const noexcept { return name_; }
+    std::string_view value() const noexcept { return value_; }
+    // NameIs for this attribute. Two ASCII names are equal without regard to
+    // case only at the same length; beyond ASCII, folding may change lengths.
     bool Is(std::string_view name) const {
-        if (name.empty()) return NameIs(std::string_view(name_), name);
-        const auto c = static_cast<unsigned char>(name_[0]);
-        const auto e = static_cast<unsigned char>(name[0]);
-        const auto lower = static_cast<unsigned char>(c | 0x20);
-        // Two ASCII letters that are no case pair, or other ASCII bytes that differ.
-        if ((c | e) < 0x80 && c != e && (lower != (e | 0x20) || lower < 'a' || lower > 'z')) return false;
-        return NameIs(std::string_view(name_), name);
+        if (!ascii_ || !IsAsciiText(name)) return NameIs(name_, name);
+        if (name.size() != name_.size()) return false;
+        for (std::size_t i = 0; i < name.size(); ++i)
+            if (((name_[i] ^ name[i]) & ~0x20) != 0 || (name_[i] != name[i] && !IsAsciiLetter(name[i]))) return false;
+        return true;
     }
 
 private:
-    pugi::xml_attribute attribute_;
-    const char* name_;
+    static constexpr bool IsAsciiText(std::string_view text) noexcept {
+        for (const char c : text)
+            if (static_cast<unsigned char>(c) >= 0x80) return false;
+        return true;
+    }
+    static constexpr bool IsAsciiLetter(char c) noexcept { return (c | 0x20) >= 'a' && (c | 0x20) <= 'z'; }
+
+    std::string_view name_;
+    std::string_view value_;
+    bool ascii_;
 };
 inline bool NameIs(const MeasuredAttribute& attribute, std::string_view name) { return attribute.Is(name); }
 
-// The attributes of an element, measured: for (const MeasuredAttribute a : MeasuredAttributes(node)).
+// The attributes of an element, measured: for (const MeasuredAttribute a : MeasuredAttributes(element)).
 class MeasuredAttributes {
 public:
-    explicit MeasuredAttributes(const pugi::xml_node& node) : node_(node) {}
+    explicit MeasuredAttributes(const XmlElementView& element) : attributes_(element.attributes()) {}
     class iterator {
     public:
-        explicit iterator(pugi::xml_attribute at) : at_(at) {}
-        MeasuredAttribute operator*() const { return MeasuredAttribute(at_); }
+        explicit iterator(XmlElementView::AttributeIterator at) : at_(at) {}
+        MeasuredAttribute operator*() const { return MeasuredAttribute(*at_); }
         iterator& operator++() {
-            at_ = at_.next_attribute();
+            ++at_;
             return *this;
         }
         bool operator!=(const iterator& other) const { return at_ != other.at_; }
 
     private:
-        pugi::xml_attribute at_;
+        XmlElementView::AttributeIterator at_;
     };
-    iterator begin() const { return iterator(node_.first_attribute()); }
-    iterator end() const { return iterator(pugi::xml_attribute()); }
+    iterator begin() const { return iterator(attributes_.begin()); }
+    iterator end() const { return iterator(attributes_.end()); }
 
 private:
-    pugi::xml_node node_;
+    XmlElementView::Attributes attributes_;
 };
 
 }  // namespace flowloom

@@ -111,8 +111,23 @@ void TellReplaced(Context& ctx, const std::string& file, const Processes& proces
 
 }  // namespace
 
+namespace {
+
+// Set by KeepModelsUntilExit; the list itself is never destroyed when the
+// program ends without running destructors.
+bool keepModels = false;
+std::vector<std::shared_ptr<Processes>>& KeptModels() {
+    static std::vector<std::shared_ptr<Processes>> kept;
+    return kept;
+}
+
+}  // namespace
+
+void KeepModelsUntilExit() { keepModels = true; }
+
 std::shared_ptr<Processes> LoadFile(Context& ctx, const std::string& file, int& status) {
     auto processes = Processes::Create();
+    if (keepModels) KeptModels().push_back(processes);
     const int errorsBefore = ctx.prompts.ErrorCount();
     const int messagesBefore = ctx.prompts.MessageCount();
     processes->Load(file);
@@ -164,8 +179,12 @@ int Xml(Context& ctx) {
     int status = kOk;
     auto processes = LoadFile(ctx, ctx.args[1], status);
     if (!processes) return status;
-    ctx.out << processes->XML();
-    return status;
+    // Straight to the output: a large file's text is never held whole.
+    const bool written = processes->WriteXml([&](std::string_view piece) {
+        ctx.out.write(piece.data(), static_cast<std::streamsize>(piece.size()));
+        return static_cast<bool>(ctx.out);
+    });
+    return written ? status : kProblem;
 }
 
 int Save(Context& ctx) {

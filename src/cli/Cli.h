@@ -14,4 +14,10 @@ int Run(const std::vector<std::string>& args, std::ostream& out, std::ostream& e
 // The same with the script of a session read from `in`.
 int Run(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 
+// From now on the models that commands load are kept until the program
+// ends instead of being freed when a command is done: freeing a large model
+// object by object takes nearly as long as loading it, and a program that
+// ends at once (see main) hands its memory back to the system in one go.
+void KeepModelsUntilExit();
+
 }  // namespace flowloom::cli

@@ -11,7 +11,6 @@
 #include "support/ReportError.h"
 #include "support/TextCompare.h"
 
-#include <pugixml.hpp>
 
 namespace flowloom::designer {
 
@@ -52,11 +51,11 @@ bool frmDesigner::SelectProcess(const std::string& name) {
 void frmDesigner::NewFromExisting() {
     Guarded("frmDesigner", "NewFromExisting", [&] {
         // The copy goes through the file format, with everything it holds.
-        pugi::xml_document document;
-        pugi::xml_node processes = document.append_child("Processes");
-        CProcessesXMLDoc().ProcessFragment(*mProcess, processes);
+        const std::string fragment = ProcessFragmentXml(*mProcess);
+        XmlElements elements;
+        if (!elements.Read(fragment)) RaiseStandardError(vberr::ObjectRequired);
         list_.SetListIndex(0);
-        mProcess->LoadElement(processes.first_child(), Processes_);
+        mProcess->LoadElement(elements.Root(), Processes_);
         mProcess->SetName({});
         mNewProcessChanged = true;
         ShowProcess();

@@ -38,11 +38,10 @@ void Activities::Dispose() {
     typeCounts_ = {};
 }
 
-void Activities::LoadElement(const pugi::xml_node& node, const std::shared_ptr<flowloom::Process>& process) {
+void Activities::LoadElement(const XmlElementView& node, const std::shared_ptr<flowloom::Process>& process) {
     std::shared_ptr<Activity> previous;
     items_.Reserve(static_cast<std::size_t>(items_.Count()) + ElementCount(node));
-    for (const pugi::xml_node& child : node.children()) {
-        if (child.type() != pugi::node_element) continue;
+    for (const XmlElementView& child : node.children()) {
         Guarded("Activities", "LoadElement", [&] {
             std::shared_ptr<Activity> activity = CreateActivity(child.name());
             // An element of an unknown name runs the previous activity's

@@ -39,7 +39,7 @@ public:
     void Dispose();
     // Creates one activity per child element by its name; a child of another
     // name runs the previous activity's reader again and adds it once more.
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<flowloom::Process>& process);
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<flowloom::Process>& process);
 
 private:
     KeyedCollection<Activity> items_;

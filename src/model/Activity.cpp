@@ -2,6 +2,7 @@
 
 #include "support/VbStrings.h"
 
+#include <charconv>
 #include <random>
 
 namespace flowloom {
@@ -16,8 +17,15 @@ float NextRandomFraction() {
 }
 
 const std::string& Activity::Key() const {
-    if (key_.empty())
-        key_ = ActivityType() + std::to_string(vb::CLng(static_cast<double>(NextRandomFraction()) * 2147483648.0));
+    if (key_.empty()) {
+        // Every activity of a file makes one: built in place, in one allocation.
+        const std::string_view type = ActivityTypeName(Kind());
+        char digits[16];
+        const auto number = vb::CLng(static_cast<double>(NextRandomFraction()) * 2147483648.0);
+        char* end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+        key_.reserve(type.size() + static_cast<std::size_t>(end - digits));
+        key_.append(type).append(digits, static_cast<std::size_t>(end - digits));
+    }
     return key_;
 }
 

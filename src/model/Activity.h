@@ -3,7 +3,7 @@
 #include "app/Tracked.h"
 #include "model/ActivityKind.h"
 
-#include <pugixml.hpp>
+#include "app/XmlElements.h"
 
 #include <memory>
 #include <optional>
@@ -41,7 +41,7 @@ public:
     // Releases the references; the end of the object's life does it as well.
     virtual void Dispose() { parent_.reset(); }
     // Keeps the process as the parent, then reads the attributes.
-    virtual void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) = 0;
+    virtual void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) = 0;
 
     // The name of the document this activity produces, for the activities
     // that have one; nullopt for the others.

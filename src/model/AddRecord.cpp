@@ -25,19 +25,18 @@ void AddRecord::Dispose() {
     Activity::Dispose();
 }
 
-void AddRecord::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+void AddRecord::LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
     for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         if (NameIs(a, "Database")) database_ = a.value();
         else if (NameIs(a, "TableName")) tablename_ = a.value();
-        else if (NameIs(a, "Description")) SetDescription(a.value());
+        else if (NameIs(a, "Description")) SetDescription(std::string(a.value()));
         else if (NameIs(a, "DatasourceName")) datasourceName_ = a.value();
     }
-    pugi::xml_node values = node.child("FieldValues");
+    XmlElementView values = node.child("FieldValues");
     if (!values) return;
     fieldValues_ = std::make_shared<flowloom::FieldValues>();
-    for (const pugi::xml_node& child : values.children()) {
-        if (child.type() != pugi::node_element) continue;
+    for (const XmlElementView& child : values.children()) {
         Guarded("AddRecord", "LoadElement", [&] {
             auto fieldValue = ReadFieldValue(child);
             fieldValues_->Add(fieldValue, fieldValue->field);  // a second of one name is reported

@@ -36,7 +36,7 @@ public:
     void SetTablename(std::string value) { tablename_ = std::move(value); }
 
     void Dispose() override;
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) override;
 
 private:
     mutable TrackedString datasourceName_;  // falls back on the main datasource

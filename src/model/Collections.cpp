@@ -47,9 +47,8 @@ std::shared_ptr<Group> Groups::Item(const CollectionPosition& position) const {
 
 bool Groups::Remove(const CollectionPosition& position) { return items_.TryRemoveAt(position); }
 
-void Groups::LoadElement(const pugi::xml_node& node) {
-    for (const pugi::xml_node& child : node.children()) {
-        if (child.type() != pugi::node_element) continue;
+void Groups::LoadElement(const XmlElementView& node) {
+    for (const XmlElementView& child : node.children()) {
         auto group = std::make_shared<Group>();
         group->LoadElement(child);
         Add(group, group->name);
@@ -76,8 +75,8 @@ std::shared_ptr<Database> Databases::Item(const CollectionPosition& position) co
 
 bool Databases::Remove(const CollectionPosition& position) { return items_.TryRemoveAt(position); }
 
-void Databases::LoadElement(const pugi::xml_node& node) {
-    for (const pugi::xml_node& child : node.children("Database")) {
+void Databases::LoadElement(const XmlElementView& node) {
+    for (const XmlElementView& child : node.children("Database")) {
         auto database = std::make_shared<Database>();
         database->LoadElement(child);
         Add(database);
@@ -101,9 +100,9 @@ void Documents::Dispose() {
     items_.Clear();
 }
 
-void Documents::LoadElement(const pugi::xml_node& node) {
+void Documents::LoadElement(const XmlElementView& node) {
     items_.Reserve(static_cast<std::size_t>(items_.Count()) + ElementCount(node, "Document"));
-    for (const pugi::xml_node& child : node.children("Document")) {
+    for (const XmlElementView& child : node.children("Document")) {
         auto document = std::make_shared<Document>();
         document->LoadElement(child);
         Add(document, document->name);
@@ -140,9 +139,9 @@ void Datasources::Dispose() {
     items_.Clear();
 }
 
-void Datasources::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+void Datasources::LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) {
     items_.Reserve(static_cast<std::size_t>(items_.Count()) + ElementCount(node, "Datasource"));
-    for (const pugi::xml_node& child : node.children("Datasource")) {
+    for (const XmlElementView& child : node.children("Datasource")) {
         Guarded("Datasources", "LoadElement", [&] {
             auto datasource = std::make_shared<Datasource>();
             datasource->LoadElement(child, process);

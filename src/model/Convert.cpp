@@ -20,7 +20,7 @@ std::string TemporaryFolderWithSeparator() {
     return folder;
 }
 
-std::int32_t NumberOr(const char* text, std::int32_t fallback) {
+std::int32_t NumberOr(std::string_view text, std::int32_t fallback) {
     auto n = vb::ToNumber(text);
     return n ? vb::CLng(*n) : fallback;
 }
@@ -45,12 +45,12 @@ std::int32_t Convert::Postscript2PDFConverter() const {
     return postscript2PDFConverter_;
 }
 
-void Convert::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+void Convert::LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
     for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         try {
             if (ReadCommonAttribute(a)) continue;
-            const char* value = a.value();
+            const std::string value(a.value());
             if (NameIs(a, "OutputDocumentName")) {
                 // Stored as read; the document of that name is added once more, which an existing one makes idle.
                 StoreOutputDocumentName(value);

@@ -40,7 +40,7 @@ public:
     const std::string& PostscriptPrinter() const noexcept { return postscriptPrinter_; }
     void SetPostscriptPrinter(std::string value) { postscriptPrinter_ = std::move(value); }
 
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) override;
 
 private:
     Tracked<bool> showDocument_ = false;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Tracked.h"
-#include <pugixml.hpp>
+#include "app/XmlElements.h"
 
 #include <string>
 
@@ -14,7 +14,7 @@ public:
     TrackedString Location;
     TrackedString Type_;  // saved as Type
 
-    void LoadElement(const pugi::xml_node& node);
+    void LoadElement(const XmlElementView& node);
 };
 
 }  // namespace flowloom

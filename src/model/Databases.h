@@ -22,7 +22,7 @@ public:
     auto end() const { return items_.end(); }
 
     void Dispose() { items_.Clear(); }
-    void LoadElement(const pugi::xml_node& node);
+    void LoadElement(const XmlElementView& node);
 
 private:
     KeyedCollection<Database> items_;

@@ -12,7 +12,7 @@ const std::string& Datasource::name() const {
     return name_;
 }
 
-void Datasource::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+void Datasource::LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) {
     parent_ = process;
     bool recordsRead = false;
     for (const MeasuredAttribute a : MeasuredAttributes(node)) {

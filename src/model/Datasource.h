@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Tracked.h"
-#include <pugixml.hpp>
+#include "app/XmlElements.h"
 
 #include <cstdint>
 #include <memory>
@@ -34,7 +34,7 @@ public:
     void SetParentProcess(const std::shared_ptr<Process>& process) { parent_ = process; }
 
     // Reads the attributes; a main datasource registers itself with the process.
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process);
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process);
     void Dispose();
 
 private:

@@ -32,7 +32,7 @@ public:
     auto end() const { return items_.end(); }
 
     void Dispose();
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process);
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process);
 
 private:
     KeyedCollection<Datasource> items_;

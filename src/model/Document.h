@@ -3,7 +3,7 @@
 #include "app/Tracked.h"
 #include "app/TaggedValue.h"
 
-#include <pugixml.hpp>
+#include "app/XmlElements.h"
 
 #include <memory>
 #include <string>
@@ -25,7 +25,7 @@ public:
     // Created on first read.
     std::vector<std::string>& Pictures();
 
-    void LoadElement(const pugi::xml_node& node);
+    void LoadElement(const XmlElementView& node);
     void Dispose();
 
 private:

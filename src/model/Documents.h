@@ -23,7 +23,7 @@ public:
     auto end() const { return items_.end(); }
 
     void Dispose();
-    void LoadElement(const pugi::xml_node& node);
+    void LoadElement(const XmlElementView& node);
 
 private:
     KeyedCollection<Document> items_;

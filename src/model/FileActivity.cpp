@@ -23,10 +23,10 @@ void FileActivity::Dispose() {
 
 bool FileActivity::ReadCommonAttribute(const MeasuredAttribute& a) {
     if (NameIs(a, "InputDocumentName")) inputDocumentName_ = a.value();
-    else if (NameIs(a, "Folder")) SetFolder(a.value());
-    else if (NameIs(a, "File")) SetFile(a.value());
-    else if (NameIs(a, "FullName")) SetFullName(TaggedValue(a.value()));
-    else if (NameIs(a, "Description")) SetDescription(a.value());
+    else if (NameIs(a, "Folder")) SetFolder(std::string(a.value()));
+    else if (NameIs(a, "File")) SetFile(std::string(a.value()));
+    else if (NameIs(a, "FullName")) SetFullName(TaggedValue(std::string(a.value())));
+    else if (NameIs(a, "Description")) SetDescription(std::string(a.value()));
     else return false;
     return true;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Tracked.h"
-#include <pugixml.hpp>
+#include "app/XmlElements.h"
 
 #include <string>
 
@@ -13,7 +13,7 @@ public:
     TrackedString name;
 
     // Takes the Name attribute; failures are ignored.
-    void LoadElement(const pugi::xml_node& node);
+    void LoadElement(const XmlElementView& node);
 };
 
 }  // namespace flowloom

@@ -39,21 +39,21 @@ void MailMerge::Dispose() {
     }
 }
 
-void MailMerge::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+void MailMerge::LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
     for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         Guarded("MailMerge", "LoadElement", [&] {
             if (NameIs(a, "InvokedApplication")) invokedApplication_ = a.value();
             else if (NameIs(a, "Template")) template_ = a.value();
             else if (NameIs(a, "OutputDocumentName")) {
-                SetOutputDocumentName(a.value());
-                AddDocumentNamed(process, a.value());
+                SetOutputDocumentName(std::string(a.value()));
+                AddDocumentNamed(process, std::string(a.value()));
             } else if (NameIs(a, "ShowDocument")) showDocument_ = vb::ReadBool(a.value());
             else if (NameIs(a, "InsertPagebreak")) insertPagebreak_ = vb::ReadBool(a.value());
             else if (NameIs(a, "MailMergeType")) {
                 if (auto n = vb::ToNumber(a.value())) mailMergeType_ = vb::CLng(*n);
             } else if (NameIs(a, "DatasourceName")) datasourceName_ = a.value();
-            else if (NameIs(a, "Description")) SetDescription(a.value());
+            else if (NameIs(a, "Description")) SetDescription(std::string(a.value()));
             else if (NameIs(a, "PrecededBy")) precededBy_ = a.value();
             else if (NameIs(a, "SucceededBy")) succeededBy_ = a.value();
             else if (NameIs(a, "Iteration")) iteration_ = a.value();

@@ -57,7 +57,7 @@ public:
     void SetShowDocument(bool value) { showDocument_ = value; }
 
     void Dispose() override;
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) override;
     std::optional<std::string> ProducedDocumentName() const override { return outputDocumentName_; }
 
 private:

@@ -40,18 +40,20 @@ private:
     std::vector<std::pair<Arg, TaggedValue>> values_;
 };
 
-// Finds the argument whose attribute name equals `name` without regard to
-// case, in a table of names indexed like the enumeration.
+class MeasuredAttribute;
+
+// Finds the argument whose attribute name equals the attribute's without regard to
+// case, in a table of ASCII names indexed like the enumeration.
 template <std::size_t N>
-int FindArgument(const std::array<const char*, N>& names, std::string_view name);
+int FindArgument(const std::array<const char*, N>& names, const MeasuredAttribute& attribute);
 
 }  // namespace flowloom
 
 #include "app/XmlDocument.h"
 
 template <std::size_t N>
-int flowloom::FindArgument(const std::array<const char*, N>& names, std::string_view name) {
+int flowloom::FindArgument(const std::array<const char*, N>& names, const MeasuredAttribute& attribute) {
     for (std::size_t i = 0; i < N; ++i)
-        if (NameIs(name, names[i])) return static_cast<int>(i);
+        if (attribute.Is(names[i])) return static_cast<int>(i);
     return -1;
 }

@@ -21,15 +21,15 @@ std::int32_t PrintOut::InputDocumentKind() const {
     return process->DocumentKind(InputDocumentName(), false);
 }
 
-void PrintOut::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+void PrintOut::LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
     for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         try {
             if (ReadCommonAttribute(a)) continue;
-            const std::string value = a.value();
+            const std::string value(a.value());
             if (NameIs(a, "Printer")) {
                 if (!value.empty()) printer_ = value;
-            } else if (int arg = FindArgument(kPrintOutArgNames, a.name()); arg >= 0) {
+            } else if (int arg = FindArgument(kPrintOutArgNames, a); arg >= 0) {
                 const auto which = static_cast<PrintOutArg>(arg);
                 const bool onlyWhenGiven = which == PrintOutArg::Preview || which == PrintOutArg::IgnorePrintAreas;
                 if (!onlyWhenGiven || !value.empty()) SetArgument(which, TaggedValue(value));

@@ -42,7 +42,7 @@ public:
     // Only Word (1) or Excel (2) count here; any other producer gives 0.
     std::int32_t InputDocumentKind() const;
 
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) override;
 
 private:
     TrackedString printer_;

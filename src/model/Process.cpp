@@ -47,7 +47,7 @@ std::string WordAt(const char* words, std::int32_t index) {
     return std::string(*word);
 }
 
-std::shared_ptr<FieldValue> ReadFieldValue(const pugi::xml_node& element) {
+std::shared_ptr<FieldValue> ReadFieldValue(const XmlElementView& element) {
     auto fieldValue = std::make_shared<FieldValue>();
     for (const MeasuredAttribute a : MeasuredAttributes(element)) {
         if (NameIs(a, "Name")) fieldValue->field = a.value();
@@ -115,35 +115,35 @@ void Process::Dispose() {
     invokedAppDocuments_.clear();
 }
 
-void Process::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Processes>& parent) {
+void Process::LoadElement(const XmlElementView& node, const std::shared_ptr<Processes>& parent) {
     parent_ = parent;
     auto self = shared_from_this();
     ReadAttributes(node);
     // Children are read in a fixed order whatever their order in the file:
     // activities need the documents, a main datasource needs the datasources.
-    if (pugi::xml_node child = node.child("Datasources")) {
+    if (XmlElementView child = node.child("Datasources")) {
         Guarded("Process", "LoadElement", [&] {
             // A collection that holds nothing yet is as good as a new one.
             if (!datasources_ || datasources_->Count() > 0) datasources_ = std::make_shared<flowloom::Datasources>();
             datasources_->LoadElement(child, self);
         });
     }
-    if (pugi::xml_node child = node.child("Documents")) {
+    if (XmlElementView child = node.child("Documents")) {
         if (!documents_ || documents_->Count() > 0) documents_ = std::make_shared<flowloom::Documents>();
         documents_->LoadElement(child);
     }
-    if (pugi::xml_node child = node.child("Activities")) {
+    if (XmlElementView child = node.child("Activities")) {
         // Every activity of a process's collection knows the process, also
         // those added after loading.
         activities_ = std::make_shared<flowloom::Activities>();
         activities_->SetProcess(self);
         activities_->LoadElement(child, self);
     }
-    if (pugi::xml_node child = node.child("Groups")) ReadGroups(child);
-    if (pugi::xml_node child = node.child("FieldValues")) ReadFieldValues(child);
+    if (XmlElementView child = node.child("Groups")) ReadGroups(child);
+    if (XmlElementView child = node.child("FieldValues")) ReadFieldValues(child);
 }
 
-void Process::ReadAttributes(const pugi::xml_node& node) {
+void Process::ReadAttributes(const XmlElementView& node) {
     for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         if (NameIs(a, "Name")) name_ = a.value();
         else if (NameIs(a, "MainDatasourceName")) mainDataSourceName_ = a.value();
@@ -159,7 +159,7 @@ void Process::ReadAttributes(const pugi::xml_node& node) {
     }
 }
 
-void Process::ReadGroups(const pugi::xml_node& node) {
+void Process::ReadGroups(const XmlElementView& node) {
     groups_ = std::make_shared<flowloom::Groups>();
     groups_->LoadElement(node);
     // Only groups that the file defines may stay.
@@ -172,10 +172,9 @@ void Process::ReadGroups(const pugi::xml_node& node) {
     }
 }
 
-void Process::ReadFieldValues(const pugi::xml_node& node) {
+void Process::ReadFieldValues(const XmlElementView& node) {
     fieldValues_ = std::make_shared<flowloom::FieldValues>();
-    for (const pugi::xml_node& child : node.children()) {
-        if (child.type() != pugi::node_element) continue;
+    for (const XmlElementView& child : node.children()) {
         std::shared_ptr<FieldValue> fieldValue = ReadFieldValue(child);
         if (!fieldValues_->Contains(fieldValue->field)) fieldValues_->Add(fieldValue, fieldValue->field);
     }

@@ -3,7 +3,7 @@
 #include "app/Tracked.h"
 #include "model/Forward.h"
 
-#include <pugixml.hpp>
+#include "app/XmlElements.h"
 
 #include <cstdint>
 #include <memory>
@@ -102,12 +102,12 @@ public:
     bool HasPrecedingOrSucceedingDocument() const;
 
     void Dispose();
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Processes>& parent);
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<Processes>& parent);
 
 private:
-    void ReadAttributes(const pugi::xml_node& node);
-    void ReadGroups(const pugi::xml_node& node);
-    void ReadFieldValues(const pugi::xml_node& node);
+    void ReadAttributes(const XmlElementView& node);
+    void ReadGroups(const XmlElementView& node);
+    void ReadFieldValues(const XmlElementView& node);
 
     TrackedString name_;
     std::weak_ptr<Processes> parent_;
@@ -143,6 +143,6 @@ std::string WordAt(const char* words, std::int32_t index);
 
 // A FieldValue element: Name gives field, Value gives value with "&quot;"
 // turned back into a double quote.
-std::shared_ptr<FieldValue> ReadFieldValue(const pugi::xml_node& element);
+std::shared_ptr<FieldValue> ReadFieldValue(const XmlElementView& element);
 
 }  // namespace flowloom

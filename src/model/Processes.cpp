@@ -57,13 +57,12 @@ bool Processes::ReadRoot(const pugi::xml_node& root, const XmlOutline& outline) 
 }
 
 bool Processes::ReadContents(const XmlOutline& outline) {
-    // Only one child's tree exists at a time: a large file is never held
-    // as a whole tree besides its model.
-    pugi::xml_document fragment;
-    const auto parsed = [&](const XmlOutline::Child& child) {
-        pugi::xml_node node = ParseChild(child, fragment);
-        if (!node) RaiseStandardError(vberr::ObjectRequired);  // the check let it pass, so it parses
-        return node;
+    // One child of the root is read at a time, straight from the checked
+    // text: a large file is never held as a tree besides its model.
+    XmlElements elements;
+    const auto read = [&](const XmlOutline::Child& child) {
+        if (!elements.Read(child.text)) RaiseStandardError(vberr::ObjectRequired);  // the check let it pass, so it reads
+        return elements.Root();
     };
     // The first child of a name, as the tree's child() would find it.
     const auto first = [&](std::string_view name) -> const XmlOutline::Child* {
@@ -73,41 +72,32 @@ bool Processes::ReadContents(const XmlOutline& outline) {
     };
     if (const auto* child = first("Groups")) {
         auto groups = std::make_shared<flowloom::Groups>();
-        groups->LoadElement(parsed(*child));
+        groups->LoadElement(read(*child));
         groups_ = groups;
     }
     auto self = shared_from_this();
     processes_.Reserve(static_cast<std::size_t>(processes_.Count()) +
                        static_cast<std::size_t>(std::count_if(outline.children.begin(), outline.children.end(),
                                                               [](const auto& c) { return c.name == "Process"; })));
-    // Processes come in batches of neighbouring children, parsed at once:
-    // a tree of a few hundred kilobytes of text at a time.
-    constexpr std::size_t kBatchBytes = 256 * 1024;
-    std::string buffer;
-    const std::size_t count = outline.children.size();
-    for (std::size_t first = 0; first < count;) {
-        std::size_t last = first;
-        std::size_t bytes = outline.children[first].text.size();
-        while (last + 1 < count && bytes + outline.children[last + 1].text.size() <= kBatchBytes)
-            bytes += outline.children[++last].text.size();
-        const std::vector<pugi::xml_node> elements = ParseChildren(outline, first, last, fragment, buffer);
-        if (elements.empty()) RaiseStandardError(vberr::ObjectRequired);  // the check let it pass, so it parses
-        for (std::size_t i = first; i <= last; ++i) {
-            if (outline.children[i].name != "Process") continue;
-            auto process = Process::Create();
-            process->LoadElement(elements[i - first], self);
-            Add(process);
-        }
-        first = last + 1;
+    for (const XmlOutline::Child& child : outline.children) {
+        if (child.name != "Process") continue;
+        auto process = Process::Create();
+        process->LoadElement(read(child), self);
+        Add(process);
     }
     if (const auto* child = first("Databases")) {
         auto databases = std::make_shared<flowloom::Databases>();
-        databases->LoadElement(parsed(*child));
+        databases->LoadElement(read(*child));
         databases_ = databases;
     }
     if (const auto* child = first("Options")) {
+        // Options keep their own reader on the XML layer's tree: their
+        // names are the file's, and the default options document uses it too.
+        pugi::xml_document fragment;
+        pugi::xml_node node = ParseChild(*child, fragment);
+        if (!node) RaiseStandardError(vberr::ObjectRequired);
         auto options = std::make_shared<flowloom::Options>();
-        options->LoadElement(parsed(*child));
+        options->LoadElement(node);
         options_ = options;
     }
     return true;
@@ -119,6 +109,17 @@ std::string Processes::XML() {
     } catch (...) {
         ReportPendingError("Processes", "XML");
         return {};
+    }
+}
+
+bool Processes::WriteXml(const std::function<bool(std::string_view)>& consumer) {
+    bool going = true;
+    try {
+        GenerateXml([&](std::string_view piece) { return going = consumer(piece); });
+        return going;
+    } catch (...) {
+        ReportPendingError("Processes", "XML");
+        return false;
     }
 }
 

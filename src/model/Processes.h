@@ -83,6 +83,10 @@ public:
     bool Save(const std::string& fileName);
     // The serialised document as Save would write it.
     std::string XML();
+    // The same text handed to `consumer` piece by piece, so that a large
+    // document is never held whole; the consumer answers false to stop.
+    // False when writing failed (reported) or the consumer stopped it.
+    bool WriteXml(const std::function<bool(std::string_view)>& consumer);
 
     // Whether the model may have changed since the last Load or successful
     // Save (or since it was made): every edit of a model object counts, also

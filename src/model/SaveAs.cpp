@@ -21,15 +21,15 @@ std::int32_t SaveAs::InputDocumentKind() const {
     return process->DocumentKind(InputDocumentName(), true);
 }
 
-void SaveAs::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+void SaveAs::LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
     for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         try {
             if (ReadCommonAttribute(a)) continue;
             if (NameIs(a, "OverwriteExistingFile")) {
                 if (auto mode = ReadOverwriteMode(a.value())) SetOverwriteExistingFile(*mode);
-            } else if (int arg = FindArgument(kSaveAsArgNames, a.name()); arg >= 0) {
-                SetArgument(static_cast<SaveAsArg>(arg), TaggedValue(a.value()));
+            } else if (int arg = FindArgument(kSaveAsArgNames, a); arg >= 0) {
+                SetArgument(static_cast<SaveAsArg>(arg), TaggedValue(std::string(a.value())));
             }
         } catch (...) {
             // a single attribute that fails is skipped

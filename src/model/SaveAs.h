@@ -41,7 +41,7 @@ public:
     // The kind of the producer of the input document: 1 Word, 2 Excel, ...
     std::int32_t InputDocumentKind() const;
 
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) override;
 
 private:
     OverwriteMode overwrite_{0};

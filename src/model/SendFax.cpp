@@ -16,13 +16,13 @@ void SendFax::Dispose() {
     Activity::Dispose();
 }
 
-void SendFax::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+void SendFax::LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
     for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         if (NameIs(a, "InputDocumentName")) inputDocumentName_ = a.value();
         else if (NameIs(a, "Subject")) subject_ = a.value();
         else if (NameIs(a, "Address")) address_ = a.value();
-        else if (NameIs(a, "Description")) SetDescription(a.value());
+        else if (NameIs(a, "Description")) SetDescription(std::string(a.value()));
     }
 }
 

@@ -26,7 +26,7 @@ public:
     void SetSubject(std::string value) { subject_ = std::move(value); }
 
     void Dispose() override;
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) override;
 
 private:
     std::shared_ptr<Document> inputDocument_;

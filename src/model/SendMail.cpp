@@ -50,12 +50,12 @@ void SendMail::Dispose() {
     FileActivity::Dispose();
 }
 
-void SendMail::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) {
+void SendMail::LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) {
     SetParentProcess(process);
     for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         try {
             if (ReadCommonAttribute(a)) continue;
-            const std::string value = a.value();
+            const std::string value(a.value());
             if (NameIs(a, "OutputDocumentName")) {
                 SetOutputDocumentName(value);
                 AddDocumentNamed(process, value);
@@ -81,9 +81,8 @@ void SendMail::LoadElement(const pugi::xml_node& node, const std::shared_ptr<Pro
         }
     }
     // Each attachment is the value of its element's first attribute, whatever its name.
-    for (const pugi::xml_node& child : node.child("Attachments").children()) {
-        if (child.type() != pugi::node_element) continue;
-        if (pugi::xml_attribute first = child.first_attribute()) AddAttachment(first.value());
+    for (const XmlElementView& child : node.child("Attachments").children()) {
+        if (XmlElementAttribute first = child.first_attribute()) AddAttachment(std::string(first.value()));
     }
 }
 

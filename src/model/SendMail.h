@@ -63,7 +63,7 @@ public:
     }
 
     void Dispose() override;
-    void LoadElement(const pugi::xml_node& node, const std::shared_ptr<Process>& process) override;
+    void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) override;
 
 private:
     static void SetList(std::shared_ptr<List>& member, std::shared_ptr<List> list) {

@@ -9,12 +9,12 @@
 
 namespace flowloom {
 
-void Group::LoadElement(const pugi::xml_node& node) {
+void Group::LoadElement(const XmlElementView& node) {
     for (const MeasuredAttribute a : MeasuredAttributes(node))
         if (NameIs(a, "Name")) name = a.value();
 }
 
-void Database::LoadElement(const pugi::xml_node& node) {
+void Database::LoadElement(const XmlElementView& node) {
     for (const MeasuredAttribute a : MeasuredAttributes(node)) {
         if (NameIs(a, "Name")) name = a.value();
         else if (NameIs(a, "Location")) Location = a.value();
@@ -27,7 +27,7 @@ std::vector<std::string>& Document::Pictures() {
     return *pictures_;
 }
 
-void Document::LoadElement(const pugi::xml_node& node) {
+void Document::LoadElement(const XmlElementView& node) {
     for (const MeasuredAttribute a : MeasuredAttributes(node))
         if (NameIs(a, "Name")) name = a.value();
 }

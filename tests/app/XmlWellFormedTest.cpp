@@ -248,18 +248,6 @@ TEST(XmlOutline, TheRootsChildrenComeAsTheirOwnTextWithTheirNames) {
         {"A", "<A/>"}, {"B", "<B k=\"1\"><B><A/></B>&amp;</B>"}, {"p:C", "<p:C xmlns:p=\"urn:p\">t</p:C>"}, {"A", "<A\r\n/>"}};
     EXPECT_EQ(children, expected);
 
-    // Neighbouring children parse at once, with what stands between them.
-    pugi::xml_document fragment;
-    std::string buffer;
-    const std::vector<pugi::xml_node> elements = ParseChildren(outline, 0, 3, fragment, buffer);
-    ASSERT_EQ(elements.size(), 4u);
-    EXPECT_STREQ(elements[1].attribute("k").value(), "1");
-    EXPECT_STREQ(elements[1].first_child().next_sibling().value(), "&");
-    EXPECT_STREQ(elements[2].name(), "p:C");
-    const std::vector<pugi::xml_node> two = ParseChildren(outline, 1, 2, fragment, buffer);
-    ASSERT_EQ(two.size(), 2u);
-    EXPECT_STREQ(two[0].name(), "B");
-
     // An empty root has no children; a broken document no outline.
     ASSERT_FALSE(CheckXmlDocument("<R/>", outline));
     EXPECT_EQ(outline.rootStartTag, "<R/>");

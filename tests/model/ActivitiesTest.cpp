@@ -134,9 +134,9 @@ TEST_F(Activity_, PrintOutTakesPrinterAndExcelArgumentsOnlyWhenGiven) {
     auto process = Load(R"(<PrintOut Printer="" Preview=""/>)");
     auto printOut = At<PrintOut>(process, 1);
     printOut->SetPrinter("Laser");
-    pugi::xml_document doc;
-    ASSERT_TRUE(doc.load_string(R"(<PrintOut Printer="" Preview=""/>)"));
-    printOut->LoadElement(doc.document_element(), process);
+    XmlElements element;
+    ASSERT_TRUE(element.Read(R"(<PrintOut Printer="" Preview=""/>)"));
+    printOut->LoadElement(element.Root(), process);
     EXPECT_EQ(printOut->Printer(), "Laser");
     EXPECT_TRUE(printOut->Argument(PrintOutArg::Preview).IsEmpty());
 }

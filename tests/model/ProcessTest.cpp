@@ -120,10 +120,10 @@ TEST_F(ProcessElement, CopyThroughTheFragmentGivesAnEqualFragment) {
     processes = LoadText(ReadAll(SourceDir() / "tests/data/every_element.xml"));
     for (const auto& original : processes->Snapshot()) {
         const std::string fragment = ProcessFragmentXml(*original);
-        pugi::xml_document copyDoc;
-        ASSERT_TRUE(copyDoc.load_string(fragment.c_str()));
+        XmlElements copyElements;
+        ASSERT_TRUE(copyElements.Read(fragment));
         auto copy = Process::Create();
-        copy->LoadElement(copyDoc.document_element(), processes);
+        copy->LoadElement(copyElements.Root(), processes);
         EXPECT_EQ(ProcessFragmentXml(*copy), fragment);
     }
 }

@@ -1,18 +1,17 @@
 #pragma once
 
-#include <pugixml.hpp>
+#include "app/XmlElements.h"
 
 #include <cstddef>
 #include <string_view>
 
 namespace flowloom {
 
-// The child elements of a node (of one name, when given): what a reader
-// reserves before it reads them.
-inline std::size_t ElementCount(const pugi::xml_node& node, const char* name = nullptr) {
+// How many child elements the element has (of that name, when one is given):
+// collections reserve their room before reading them.
+inline std::size_t ElementCount(const XmlElementView& element, std::string_view name = {}) {
     std::size_t count = 0;
-    for (pugi::xml_node child = node.first_child(); child; child = child.next_sibling())
-        if (child.type() == pugi::node_element && (!name || std::string_view(child.name()) == name)) ++count;
+    for ([[maybe_unused]] const XmlElementView child : element.children(name)) ++count;
     return count;
 }
 

@@ -1,0 +1,250 @@
+#include "app/XmlElements.h"
+
+#include <charconv>
+#include <cstring>
+
+namespace flowloom {
+
+namespace {
+
+bool IsSpace(char c) noexcept { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+
+void SkipSpace(std::string_view text, std::size_t& pos) noexcept {
+    while (pos < text.size() && IsSpace(text[pos])) ++pos;
+}
+
+// Moves past the next `end` from pos; false when there is none.
+bool SkipPast(std::string_view text, std::size_t& pos, std::string_view end) noexcept {
+    const std::size_t at = text.find(end, pos);
+    if (at == std::string_view::npos) return false;
+    pos = at + end.size();
+    return true;
+}
+
+bool StartsWith(std::string_view text, std::size_t pos, std::string_view prefix) noexcept {
+    return text.substr(pos, prefix.size()) == prefix;
+}
+
+void AppendUtf8(std::string& out, std::uint32_t c) {
+    if (c < 0x80) {
+        out += static_cast<char>(c);
+    } else if (c < 0x800) {
+        out += static_cast<char>(0xC0 | (c >> 6));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    } else if (c < 0x10000) {
+        out += static_cast<char>(0xE0 | (c >> 12));
+        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    } else {
+        out += static_cast<char>(0xF0 | (c >> 18));
+        out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    }
+}
+
+// The character of a reference's name ("amp", "#38", "#x26"); false for none.
+bool AppendReference(std::string& out, std::string_view name) {
+    if (name == "amp") out += '&';
+    else if (name == "lt") out += '<';
+    else if (name == "gt") out += '>';
+    else if (name == "quot") out += '"';
+    else if (name == "apos") out += '\'';
+    else if (name.size() > 1 && name[0] == '#') {
+        const bool hex = name[1] == 'x';
+        const std::string_view digits = name.substr(hex ? 2 : 1);
+        std::uint32_t code = 0;
+        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), code, hex ? 16 : 10);
+        if (digits.empty() || error != std::errc() || end != digits.data() + digits.size() || code > 0x10FFFF)
+            return false;
+        AppendUtf8(out, code);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+std::string_view XmlElementAttribute::name() const noexcept { return at_ ? at_->name : std::string_view(); }
+std::string_view XmlElementAttribute::value() const noexcept { return at_ ? at_->value : std::string_view(); }
+
+std::string_view XmlElementView::name() const noexcept {
+    return elements_ ? elements_->elements_[at_].name : std::string_view();
+}
+
+XmlElementView XmlElementView::child(std::string_view name) const noexcept {
+    for (const XmlElementView element : children(name)) return element;
+    return {};
+}
+
+XmlElementAttribute XmlElementView::first_attribute() const noexcept {
+    if (!elements_ || elements_->elements_[at_].attributeCount == 0) return {};
+    return XmlElementAttribute(&elements_->attributes_[elements_->elements_[at_].firstAttribute]);
+}
+
+XmlElementView::Children XmlElementView::children(std::string_view name) const noexcept {
+    const std::uint32_t first = elements_ ? elements_->elements_[at_].firstChild : XmlElements::kNone;
+    return {ChildIterator(elements_, first, name), ChildIterator(elements_, XmlElements::kNone, name)};
+}
+
+XmlElementView::Attributes XmlElementView::attributes() const noexcept {
+    if (!elements_ || elements_->elements_[at_].attributeCount == 0) return {AttributeIterator(nullptr), AttributeIterator(nullptr)};
+    const XmlElements::Element& element = elements_->elements_[at_];
+    const XmlElementAttribute::Stored* first = &elements_->attributes_[element.firstAttribute];
+    return {AttributeIterator(first), AttributeIterator(first + element.attributeCount)};
+}
+
+XmlElementView::ChildIterator& XmlElementView::ChildIterator::operator++() noexcept {
+    at_ = elements_->elements_[at_].nextSibling;
+    Skip();
+    return *this;
+}
+
+void XmlElementView::ChildIterator::Skip() noexcept {
+    if (name_.empty()) return;
+    while (at_ != XmlElements::kNone && elements_->elements_[at_].name != name_) at_ = elements_->elements_[at_].nextSibling;
+}
+
+XmlElementView::AttributeIterator& XmlElementView::AttributeIterator::operator++() noexcept {
+    ++at_;
+    return *this;
+}
+
+XmlElementView XmlElements::Root() const noexcept {
+    return elements_.empty() ? XmlElementView() : XmlElementView(this, 0);
+}
+
+bool XmlElements::Read(std::string_view text) {
+    elements_.clear();
+    attributes_.clear();
+    decoded_.clear();
+    pendingValues_.clear();
+    open_.clear();
+    lastChild_.clear();
+    if (!ReadElements(text)) {
+        elements_.clear();
+        attributes_.clear();
+        return false;
+    }
+    for (const auto& [index, offset] : pendingValues_)
+        attributes_[index].value = std::string_view(decoded_).substr(offset, attributes_[index].value.size());
+    return true;
+}
+
+bool XmlElements::ReadElements(std::string_view text) {
+    std::size_t pos = 0;
+    if (!StartsWith(text, 0, "<")) return false;
+    while (pos < text.size()) {
+        if (text[pos] != '<') {  // text between tags
+            pos = text.find('<', pos);
+            if (pos == std::string_view::npos) return false;
+            continue;
+        }
+        if (StartsWith(text, pos, "</")) {
+            if (open_.empty() || !SkipPast(text, pos, ">")) return false;
+            open_.pop_back();
+            lastChild_.pop_back();
+            if (open_.empty()) return pos == text.size();
+        } else if (StartsWith(text, pos, "<!--")) {
+            if (!SkipPast(text, pos, "-->")) return false;
+        } else if (StartsWith(text, pos, "<![CDATA[")) {
+            if (!SkipPast(text, pos, "]]>")) return false;
+        } else if (StartsWith(text, pos, "<?")) {
+            if (!SkipPast(text, pos, "?>")) return false;
+        } else {
+            if (open_.empty() && !elements_.empty()) return false;  // a second element at the top
+            ++pos;
+            bool empty = false;
+            if (!ReadStartTag(text, pos, empty)) return false;
+            if (empty && open_.empty()) return pos == text.size();
+        }
+    }
+    return false;  // an element left open
+}
+
+bool XmlElements::ReadStartTag(std::string_view text, std::size_t& pos, bool& empty) {
+    const std::size_t nameStart = pos;
+    while (pos < text.size() && !IsSpace(text[pos]) && text[pos] != '/' && text[pos] != '>') ++pos;
+    if (pos == nameStart || pos >= text.size()) return false;
+    const auto index = static_cast<std::uint32_t>(elements_.size());
+    Element element;
+    element.name = text.substr(nameStart, pos - nameStart);
+    element.firstAttribute = static_cast<std::uint32_t>(attributes_.size());
+    if (!open_.empty()) {
+        std::uint32_t& last = lastChild_.back();
+        if (last == kNone) elements_[open_.back()].firstChild = index;
+        else elements_[last].nextSibling = index;
+        last = index;
+    }
+    elements_.push_back(element);
+    for (;;) {
+        SkipSpace(text, pos);
+        if (pos >= text.size()) return false;
+        if (text[pos] == '>') {
+            ++pos;
+            open_.push_back(index);
+            lastChild_.push_back(kNone);
+            empty = false;
+            break;
+        }
+        if (text[pos] == '/') {
+            if (!StartsWith(text, pos, "/>")) return false;
+            pos += 2;
+            empty = true;
+            break;
+        }
+        if (!ReadAttribute(text, pos)) return false;
+    }
+    elements_[index].attributeCount = static_cast<std::uint32_t>(attributes_.size()) - elements_[index].firstAttribute;
+    return true;
+}
+
+bool XmlElements::ReadAttribute(std::string_view text, std::size_t& pos) {
+    const std::size_t nameStart = pos;
+    while (pos < text.size() && !IsSpace(text[pos]) && text[pos] != '=') ++pos;
+    const std::string_view name = text.substr(nameStart, pos - nameStart);
+    SkipSpace(text, pos);
+    if (name.empty() || pos >= text.size() || text[pos] != '=') return false;
+    ++pos;
+    SkipSpace(text, pos);
+    if (pos >= text.size() || (text[pos] != '"' && text[pos] != '\'')) return false;
+    const char quote = text[pos++];
+    const std::size_t end = text.find(quote, pos);
+    if (end == std::string_view::npos) return false;
+    const std::string_view raw = text.substr(pos, end - pos);
+    pos = end + 1;
+    if (raw.find_first_of("&\t\r\n") == std::string_view::npos) {
+        attributes_.push_back({name, raw});
+        return true;
+    }
+    const std::size_t offset = decoded_.size();
+    if (!Decode(raw)) return false;
+    // The view's length is kept; it points into decoded_ once reading is done.
+    pendingValues_.emplace_back(static_cast<std::uint32_t>(attributes_.size()), static_cast<std::uint32_t>(offset));
+    attributes_.push_back({name, std::string_view(raw.data(), decoded_.size() - offset)});
+    return true;
+}
+
+bool XmlElements::Decode(std::string_view raw) {
+    for (std::size_t i = 0; i < raw.size(); ++i) {
+        const char c = raw[i];
+        if (c == '&') {
+            const std::size_t semicolon = raw.find(';', i);
+            if (semicolon == std::string_view::npos || !AppendReference(decoded_, raw.substr(i + 1, semicolon - i - 1)))
+                return false;
+            i = semicolon;
+        } else if (c == '\r') {
+            // A line end in a value is one space, however it was written.
+            decoded_ += ' ';
+            if (i + 1 < raw.size() && raw[i + 1] == '\n') ++i;
+        } else if (c == '\t' || c == '\n') {
+            decoded_ += ' ';
+        } else {
+            decoded_ += c;
+        }
+    }
+    return true;
+}
+
+}  // namespace flowloom
