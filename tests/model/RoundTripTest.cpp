@@ -27,6 +27,22 @@ TEST_F(RoundTrip, EveryElementAndAttributeSurvivesLoadXmlAndSavingTwice) {
     EXPECT_EQ(ReadAll(out), original);
 }
 
+TEST_F(RoundTrip, WrittenInPiecesTheTextIsTheSameAndAStopEndsIt) {
+    const std::string original = ReadAll(SourceDir() / "tests/data/every_element.xml");
+    auto processes = LoadText(original);
+    std::string pieces;
+    int calls = 0;
+    EXPECT_TRUE(processes->WriteXml([&](std::string_view piece) {
+        pieces += piece;
+        ++calls;
+        return true;
+    }));
+    EXPECT_EQ(pieces, original);
+    calls = 0;
+    EXPECT_FALSE(processes->WriteXml([&](std::string_view) { return ++calls > 1; }));
+    EXPECT_EQ(calls, 1);
+}
+
 TEST_F(RoundTrip, TheBundledExampleIsInTheFormTheWriterProduces) {
     const std::string example = ReadAll(SourceDir() / "examples/letters.xml");
     auto processes = LoadText(example);
