@@ -9,6 +9,23 @@ namespace {
 
 bool IsSpace(char c) noexcept { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
+// Bytes that end a name in a tag (blanks, "=", "/", ">"), and bytes of a
+// value that a parser does not deliver as they are ("&" and white space).
+struct ByteClasses {
+    bool endsName[256] = {};
+    bool needsDecoding[256] = {};
+    constexpr ByteClasses() {
+        for (const unsigned char c : {' ', '\t', '\r', '\n', '=', '/', '>'}) endsName[c] = true;
+        for (const unsigned char c : {'&', '\t', '\r', '\n'}) needsDecoding[c] = true;
+    }
+};
+constexpr ByteClasses kClasses;
+
+std::size_t NameEnd(std::string_view text, std::size_t pos) noexcept {
+    while (pos < text.size() && !kClasses.endsName[static_cast<unsigned char>(text[pos])]) ++pos;
+    return pos;
+}
+
 void SkipSpace(std::string_view text, std::size_t& pos) noexcept {
     while (pos < text.size() && IsSpace(text[pos])) ++pos;
 }
@@ -141,16 +158,17 @@ bool XmlElements::ReadElements(std::string_view text) {
             if (pos == std::string_view::npos) return false;
             continue;
         }
-        if (StartsWith(text, pos, "</")) {
+        const char next = pos + 1 < text.size() ? text[pos + 1] : '\0';
+        if (next == '/') {
             if (open_.empty() || !SkipPast(text, pos, ">")) return false;
             open_.pop_back();
             lastChild_.pop_back();
             if (open_.empty()) return pos == text.size();
-        } else if (StartsWith(text, pos, "<!--")) {
+        } else if (next == '!' && StartsWith(text, pos, "<!--")) {
             if (!SkipPast(text, pos, "-->")) return false;
-        } else if (StartsWith(text, pos, "<![CDATA[")) {
+        } else if (next == '!' && StartsWith(text, pos, "<![CDATA[")) {
             if (!SkipPast(text, pos, "]]>")) return false;
-        } else if (StartsWith(text, pos, "<?")) {
+        } else if (next == '?') {
             if (!SkipPast(text, pos, "?>")) return false;
         } else {
             if (open_.empty() && !elements_.empty()) return false;  // a second element at the top
@@ -165,8 +183,8 @@ bool XmlElements::ReadElements(std::string_view text) {
 
 bool XmlElements::ReadStartTag(std::string_view text, std::size_t& pos, bool& empty) {
     const std::size_t nameStart = pos;
-    while (pos < text.size() && !IsSpace(text[pos]) && text[pos] != '/' && text[pos] != '>') ++pos;
-    if (pos == nameStart || pos >= text.size()) return false;
+    pos = NameEnd(text, pos);
+    if (pos == nameStart || pos >= text.size() || text[pos] == '=') return false;
     const auto index = static_cast<std::uint32_t>(elements_.size());
     Element element;
     element.name = text.substr(nameStart, pos - nameStart);
@@ -202,7 +220,7 @@ bool XmlElements::ReadStartTag(std::string_view text, std::size_t& pos, bool& em
 
 bool XmlElements::ReadAttribute(std::string_view text, std::size_t& pos) {
     const std::size_t nameStart = pos;
-    while (pos < text.size() && !IsSpace(text[pos]) && text[pos] != '=') ++pos;
+    pos = NameEnd(text, pos);
     const std::string_view name = text.substr(nameStart, pos - nameStart);
     SkipSpace(text, pos);
     if (name.empty() || pos >= text.size() || text[pos] != '=') return false;
@@ -210,11 +228,13 @@ bool XmlElements::ReadAttribute(std::string_view text, std::size_t& pos) {
     SkipSpace(text, pos);
     if (pos >= text.size() || (text[pos] != '"' && text[pos] != '\'')) return false;
     const char quote = text[pos++];
-    const std::size_t end = text.find(quote, pos);
-    if (end == std::string_view::npos) return false;
-    const std::string_view raw = text.substr(pos, end - pos);
-    pos = end + 1;
-    if (raw.find_first_of("&\t\r\n") == std::string_view::npos) {
+    const std::size_t start = pos;
+    bool plain = true;
+    for (; pos < text.size() && text[pos] != quote; ++pos) plain &= !kClasses.needsDecoding[static_cast<unsigned char>(text[pos])];
+    if (pos >= text.size()) return false;
+    const std::string_view raw = text.substr(start, pos - start);
+    ++pos;
+    if (plain) {
         attributes_.push_back({name, raw});
         return true;
     }
