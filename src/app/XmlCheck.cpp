@@ -3,9 +3,15 @@
 #include "app/XmlChars.h"
 #include "app/XmlNamespaces.h"
 
-#include <algorithm>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 #include <deque>
 #include <vector>
+
+#if defined(__SSE2__) || defined(_M_X64)
+#include <emmintrin.h>
+#endif
 
 namespace flowloom {
 
@@ -18,25 +24,115 @@ constexpr const char* kInvalidChar = "An invalid character was found in text con
 constexpr const char* kBadDeclaration = "Invalid xml declaration.";
 constexpr const char* kBadDoctype = "A document type declaration is not well-formed.";
 constexpr const char* kBadName = "A name was started with an invalid character.";
+constexpr const char* kDuplicate = "Duplicate attribute.";
 
 struct Malformed {
     std::size_t offset;
     std::string reason;
 };
 
-// Bytes that need no second look in text and in attribute values: ASCII
-// characters XML allows, without the ones that end a run.
-struct PlainBytes {
-    bool text[256] = {};
-    bool value[256] = {};
-    constexpr PlainBytes() {
-        for (int c = 0x20; c < 0x80; ++c) text[c] = value[c] = c != '<' && c != '&';
-        text[']'] = false;
-        value['"'] = value['\''] = false;
-        for (const int c : {'\t', '\n', '\r'}) text[c] = value[c] = true;
+// What each byte can be where the hot loops read: part of an ASCII name (the
+// colon on its own), white space, or a byte that needs no second look in text
+// or in attribute values (ASCII characters XML allows, without the ones that
+// end a run). Bytes from 0x80 on are in no class: they take the slow way.
+enum ByteClass : unsigned char {
+    kNameStart = 1,  // without the colon
+    kNameChar = 2,   // without the colon
+    kColon = 4,
+    kSpace = 8,
+    kPlainText = 16,
+    kPlainValue = 32,
+};
+
+struct ByteClasses {
+    unsigned char of[256] = {};
+    constexpr ByteClasses() {
+        for (int c = 0x20; c < 0x80; ++c)
+            if (c != '<' && c != '&' && c != ']') of[c] |= kPlainText;
+        for (int c = 0x20; c < 0x80; ++c)
+            if (c != '<' && c != '&' && c != '"' && c != '\'') of[c] |= kPlainValue;
+        for (const int c : {'\t', '\n', '\r', ' '}) of[c] |= kSpace | kPlainText | kPlainValue;
+        for (int c = 0; c < 0x80; ++c) {
+            if (c == ':') continue;
+            if (xmlchars::kAsciiName.start[c]) of[c] |= kNameStart;
+            if (xmlchars::kAsciiName.name[c]) of[c] |= kNameChar;
+        }
+        of[static_cast<unsigned char>(':')] |= kColon;
     }
 };
-constexpr PlainBytes kPlain;
+constexpr ByteClasses kBytes;
+
+unsigned ClassOf(char c) { return kBytes.of[static_cast<unsigned char>(c)]; }
+
+// The first byte from `p` on that is not in `byteClass`, or `end`; four at a
+// time while there are four.
+const char* SkipClass(const char* p, const char* end, unsigned byteClass) {
+    for (; end - p >= 4; p += 4) {
+        if (!(ClassOf(p[0]) & byteClass)) return p;
+        if (!(ClassOf(p[1]) & byteClass)) return p + 1;
+        if (!(ClassOf(p[2]) & byteClass)) return p + 2;
+        if (!(ClassOf(p[3]) & byteClass)) return p + 3;
+    }
+    while (p < end && (ClassOf(*p) & byteClass)) ++p;
+    return p;
+}
+
+#if defined(__SSE2__) || defined(_M_X64)
+// A bit for each of the 16 bytes at `p` that is outside the class.
+template <unsigned kClass>
+unsigned Outside(const char* p) {
+    static_assert(kClass == kNameChar || kClass == (kNameChar | kColon) || kClass == kPlainValue || kClass == kPlainText);
+    const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+    const auto is = [&v](char c) { return _mm_cmpeq_epi8(v, _mm_set1_epi8(c)); };
+    if constexpr ((kClass & kNameChar) != 0) {
+        // Letters, '-', '.', digits (all but '/' from '-' to '9') and '_'.
+        const __m128i lower = _mm_or_si128(v, _mm_set1_epi8(0x20));
+        const __m128i letter =
+            _mm_and_si128(_mm_cmpgt_epi8(lower, _mm_set1_epi8('a' - 1)), _mm_cmplt_epi8(lower, _mm_set1_epi8('z' + 1)));
+        const __m128i digitLike =
+            _mm_and_si128(_mm_cmpgt_epi8(v, _mm_set1_epi8('-' - 1)), _mm_cmplt_epi8(v, _mm_set1_epi8('9' + 1)));
+        __m128i inside = _mm_or_si128(_mm_or_si128(letter, _mm_andnot_si128(is('/'), digitLike)), is('_'));
+        if constexpr ((kClass & kColon) != 0) inside = _mm_or_si128(inside, is(':'));
+        return ~static_cast<unsigned>(_mm_movemask_epi8(inside)) & 0xFFFF;
+    } else {
+        // Bytes below 0x20 and from 0x80 on are below 0x20 as signed bytes;
+        // of them only tab, line feed and carriage return are in.
+        const __m128i lineSpace = _mm_or_si128(is('\t'), _mm_or_si128(is('\n'), is('\r')));
+        const __m128i control = _mm_andnot_si128(lineSpace, _mm_cmplt_epi8(v, _mm_set1_epi8(0x20)));
+        __m128i outside = _mm_or_si128(control, _mm_or_si128(is('<'), is('&')));
+        if constexpr (kClass == kPlainValue) outside = _mm_or_si128(outside, _mm_or_si128(is('"'), is('\'')));
+        if constexpr (kClass == kPlainText) outside = _mm_or_si128(outside, is(']'));
+        return static_cast<unsigned>(_mm_movemask_epi8(outside));
+    }
+}
+#endif
+
+// As SkipClass, sixteen bytes at a time where the machine can.
+template <unsigned kClass>
+const char* SkipRun(const char* p, const char* end) {
+#if defined(__SSE2__) || defined(_M_X64)
+    for (; end - p >= 16; p += 16)
+        if (const unsigned outside = Outside<kClass>(p)) return p + std::countr_zero(outside);
+#endif
+    return SkipClass(p, end, kClass);
+}
+
+// The first attribute whose name an earlier one has, or nullptr. A bit for
+// each name's length and ends lets most tags through with one look at each name.
+const XmlAttributeView* FirstDuplicate(const std::vector<XmlAttributeView>& attributes) {
+    std::uint64_t seen = 0;
+    for (std::size_t i = 0; i < attributes.size(); ++i) {
+        const std::string_view name = attributes[i].name;
+        const unsigned hash = static_cast<unsigned>(name.size()) * 7 +
+                              static_cast<unsigned char>(name.front()) * 3 + static_cast<unsigned char>(name.back());
+        const std::uint64_t bit = std::uint64_t{1} << (hash & 63);
+        if (seen & bit)
+            for (std::size_t j = 0; j < i; ++j)
+                if (attributes[j].name == name) return &attributes[i];
+        seen |= bit;
+    }
+    return nullptr;
+}
 
 bool IsDeclaration(std::string_view name) { return name == "xmlns" || name.substr(0, 6) == "xmlns:"; }
 
@@ -80,6 +176,11 @@ public:
     void Document();
 
 private:
+    struct OpenElement {
+        std::string_view name;
+        bool scoped;  // opened in namespaces_, to be closed there
+    };
+
     bool AtEnd() const { return pos_ >= text_.size(); }
     bool Next(std::string_view s) const { return text_.substr(pos_, s.size()) == s; }
     bool Take(std::string_view s) {
@@ -95,9 +196,14 @@ private:
 
     char32_t Peek(std::size_t& length) const;
     char32_t TakeChar();
-    bool SkipSpace();
-    void SkipPlain(const bool (&plain)[256]);
-    std::string_view TakeName(const char* reason);
+    // Whether there was any white space; most often there is none.
+    bool SkipSpace() { return !AtEnd() && (ClassOf(text_[pos_]) & kSpace) && SkipMoreSpace(); }
+    bool SkipMoreSpace();
+    template <unsigned kClass>
+    void SkipRunOf() {
+        pos_ = static_cast<std::size_t>(SkipRun<kClass>(text_.data() + pos_, text_.data() + text_.size()) - text_.data());
+    }
+    std::string_view TakeName(const char* reason, bool* colon = nullptr);
     char TakeQuote();
     void Equals();
 
@@ -111,7 +217,8 @@ private:
     void Element();
     void Content();
     void StartTag();
-    void Attribute();
+    bool Attribute();
+    bool OpenInScope(std::size_t start, std::string_view name, bool plain);
     void AttributeValue(std::string* decoded);
     void Reference(std::string* decoded);
     void Text();
@@ -127,10 +234,9 @@ private:
     std::string_view childName_;
     std::string_view lastStartTag_;  // name of the start tag read last
     std::size_t pos_ = 0;
-    std::vector<std::string_view> open_;  // names of the open elements
+    std::vector<OpenElement> open_;
     XmlNamespaceScope namespaces_;
     std::vector<XmlAttributeView> attributes_;  // of the start tag being read
-    std::vector<std::size_t> attributeOffsets_;
     std::deque<std::string> declaredValues_;  // values of its xmlns attributes, references replaced
     std::vector<const char*> faults_;
 };
@@ -159,19 +265,30 @@ char32_t Checker::TakeChar() {
     return c;
 }
 
-bool Checker::SkipSpace() {
-    const std::size_t start = pos_;
-    while (!AtEnd() && IsXmlSpace(static_cast<unsigned char>(text_[pos_]))) ++pos_;
-    return pos_ > start;
+bool Checker::SkipMoreSpace() {
+    const char* const begin = text_.data();
+    pos_ = static_cast<std::size_t>(SkipClass(begin + pos_ + 1, begin + text_.size(), kSpace) - begin);
+    return true;
 }
 
-std::string_view Checker::TakeName(const char* reason) {
+// A name; `colon`, when given, learns whether there is a colon in it.
+std::string_view Checker::TakeName(const char* reason, bool* colon) {
     const std::size_t start = pos_;
-    auto byte = [this] { return static_cast<unsigned char>(text_[pos_]); };
-    if (!AtEnd() && xmlchars::IsAsciiNameStart(byte())) {
-        ++pos_;
-        while (!AtEnd() && xmlchars::IsAsciiNameChar(byte())) ++pos_;
-        if (AtEnd() || byte() < 0x80) return text_.substr(start, pos_ - start);
+    const char* const begin = text_.data();
+    const char* const end = begin + text_.size();
+    const char* p = begin + pos_;
+    if (p < end && (ClassOf(*p) & (kNameStart | kColon))) {
+        bool colons = *p == ':';
+        p = SkipRun<kNameChar>(p + 1, end);
+        if (p < end && *p == ':') {
+            colons = true;
+            p = SkipRun<kNameChar | kColon>(p + 1, end);
+        }
+        pos_ = static_cast<std::size_t>(p - begin);
+        if (p == end || static_cast<unsigned char>(*p) < 0x80) {
+            if (colon) *colon = colons;
+            return {begin + start, pos_ - start};
+        }
     }
     // Characters beyond ASCII, one at a time.
     std::size_t length = 0;
@@ -182,22 +299,20 @@ std::string_view Checker::TakeName(const char* reason) {
         pos_ += length;
     }
     if (pos_ == start) Fail(reason);
-    return text_.substr(start, pos_ - start);
-}
-
-void Checker::SkipPlain(const bool (&plain)[256]) {
-    while (!AtEnd() && plain[static_cast<unsigned char>(text_[pos_])]) ++pos_;
+    const std::string_view name = text_.substr(start, pos_ - start);
+    if (colon) *colon = name.find(':') != std::string_view::npos;
+    return name;
 }
 
 char Checker::TakeQuote() {
-    if (Take("\"")) return '"';
-    if (Take("'")) return '\'';
+    if (!AtEnd() && (text_[pos_] == '"' || text_[pos_] == '\'')) return text_[pos_++];
     Fail("A string literal was expected, but no opening quotation mark was found.");
 }
 
 void Checker::Equals() {
     SkipSpace();
-    Expect("=", "Missing equals sign between attribute and attribute value.");
+    if (AtEnd() || text_[pos_] != '=') Fail("Missing equals sign between attribute and attribute value.");
+    ++pos_;
     SkipSpace();
 }
 
@@ -351,60 +466,80 @@ void Checker::Outline(std::size_t before, bool atRootLevel) {
 
 // One piece of the content of the innermost open element.
 void Checker::Content() {
-    if (AtEnd()) Fail("The element '" + std::string(open_.back()) + "' is not closed.");
+    if (AtEnd()) Fail("The element '" + std::string(open_.back().name) + "' is not closed.");
     if (text_[pos_] == '&') return Reference(nullptr);
     if (text_[pos_] != '<') return Text();
-    if (Next("</")) return EndTag();
-    if (Next("<!--")) return Comment();
-    if (Next("<![CDATA[")) return CData();
-    if (Next("<?")) return ProcessingInstruction();
-    if (Next("<!")) Fail("Declarations are not allowed in element content.");
+    const char next = pos_ + 1 < text_.size() ? text_[pos_ + 1] : '\0';
+    if (next == '/') return EndTag();
+    if (next == '?') return ProcessingInstruction();
+    if (next == '!') {
+        if (Next("<!--")) return Comment();
+        if (Next("<![CDATA[")) return CData();
+        Fail("Declarations are not allowed in element content.");
+    }
     StartTag();
 }
 
 void Checker::StartTag() {
     const std::size_t start = pos_;
     ++pos_;
-    const std::string_view name = TakeName(kBadName);
+    bool prefixed = false;
+    const std::string_view name = TakeName(kBadName, &prefixed);
     lastStartTag_ = name;
     attributes_.clear();
-    attributeOffsets_.clear();
-    declaredValues_.clear();
+    if (!declaredValues_.empty()) declaredValues_.clear();
+    // Plain: no colon in any name and no declaration, as most tags are.
+    bool plain = !prefixed;
     bool empty = false;
     for (;;) {
         const bool space = SkipSpace();
-        if (Take("/>")) {
+        if (AtEnd()) Fail("The start tag is not closed.");
+        if (text_[pos_] == '>') {
+            ++pos_;
+            break;
+        }
+        if (Next("/>")) {
+            pos_ += 2;
             empty = true;
             break;
         }
-        if (Take(">")) break;
-        if (AtEnd()) Fail("The start tag is not closed.");
         if (!space) Fail("White space is required between attributes.");
-        Attribute();
+        plain &= Attribute();
     }
-    // Names taken here are names already: without a colon or a declaration
-    // there is nothing about namespaces left to judge.
-    const auto unprefixed = [](std::string_view n) { return n.find(':') == std::string_view::npos; };
-    const bool plain = unprefixed(name) && declaredValues_.empty() &&
-                       std::all_of(attributes_.begin(), attributes_.end(),
-                                   [&](const XmlAttributeView& a) { return unprefixed(a.name); });
+    const bool scoped = OpenInScope(start, name, plain);
+    if (!empty) open_.push_back({name, scoped});
+    else if (scoped) namespaces_.Close();
+}
+
+// Judges the names of the start tag just read. A plain tag with a few
+// attributes can only hold a duplicate and binds nothing, so it is judged
+// here and never enters the namespace scope; whether it did is the result.
+bool Checker::OpenInScope(std::size_t start, std::string_view name, bool plain) {
+    // Names point into the text, so where an attribute stands is where its name does.
+    const auto offset = [this](const XmlAttributeView& a) { return static_cast<std::size_t>(a.name.data() - text_.data()); };
+    constexpr std::size_t kFewAttributes = 32;
+    if (plain && attributes_.size() <= kFewAttributes) {
+        if (const XmlAttributeView* duplicate = FirstDuplicate(attributes_)) FailAt(offset(*duplicate), kDuplicate);
+        return false;
+    }
     if (plain) namespaces_.OpenUnprefixed(attributes_, faults_);
     else if (const char* fault = namespaces_.Open(name, attributes_, faults_)) FailAt(start + 1, fault);
     for (std::size_t i = 0; i < faults_.size(); ++i)
-        if (faults_[i]) FailAt(attributeOffsets_[i], faults_[i]);
-    if (empty) namespaces_.Close();
-    else open_.push_back(name);
+        if (faults_[i]) FailAt(offset(attributes_[i]), faults_[i]);
+    return true;
 }
 
-void Checker::Attribute() {
-    const std::size_t start = pos_;
-    const std::string_view name = TakeName(kBadName);
+// Whether the attribute is plain: its name without a colon and no declaration.
+bool Checker::Attribute() {
+    bool prefixed = false;
+    const std::string_view name = TakeName(kBadName, &prefixed);
     Equals();
-    std::string* declared = IsDeclaration(name) ? &declaredValues_.emplace_back() : nullptr;
+    const bool declaration = prefixed ? IsDeclaration(name) : name == "xmlns";
+    std::string* declared = declaration ? &declaredValues_.emplace_back() : nullptr;
     const std::size_t valueStart = pos_;
     AttributeValue(declared);
     attributes_.push_back({name, declared ? std::string_view(*declared) : text_.substr(valueStart, pos_ - valueStart)});
-    attributeOffsets_.push_back(start);
+    return !prefixed && !declaration;
 }
 
 // A quoted value; `decoded`, when given, gets it as a parser hands it on:
@@ -412,7 +547,7 @@ void Checker::Attribute() {
 void Checker::AttributeValue(std::string* decoded) {
     const char quote = TakeQuote();
     for (;;) {
-        if (!decoded) SkipPlain(kPlain.value);
+        if (!decoded) SkipRunOf<kPlainValue>();
         if (AtEnd()) Fail("The attribute value is not closed.");
         const char c = text_[pos_];
         if (c == quote) {
@@ -458,7 +593,7 @@ void Checker::Reference(std::string* decoded) {
 }
 
 void Checker::Text() {
-    for (SkipPlain(kPlain.text); !AtEnd(); SkipPlain(kPlain.text)) {
+    for (SkipRunOf<kPlainText>(); !AtEnd(); SkipRunOf<kPlainText>()) {
         const char c = text_[pos_];
         if (c == '<' || c == '&') return;
         if (c == ']' && Next("]]>")) Fail("The literal string ']]>' is not allowed in element content.");
@@ -473,14 +608,24 @@ void Checker::CData() {
 
 void Checker::EndTag() {
     const std::size_t start = pos_;
-    pos_ += 2;
-    const std::string_view name = TakeName(kBadName);
-    SkipSpace();
-    Expect(">", "The end tag is not well-formed.");
-    if (name != open_.back())
-        FailAt(start, "End tag '" + std::string(name) + "' does not match the start tag '" + std::string(open_.back()) + "'.");
+    const OpenElement open = open_.back();
+    // Most end tags are the open name and ">" at once: bytes that were a name
+    // before and stop at the same character are that name again.
+    const std::size_t close = start + 2 + open.name.size();
+    if (close < text_.size() && text_[close] == '>' &&
+        std::memcmp(text_.data() + start + 2, open.name.data(), open.name.size()) == 0) {
+        pos_ = close + 1;
+    } else {
+        pos_ += 2;
+        const std::string_view name = TakeName(kBadName);
+        SkipSpace();
+        Expect(">", "The end tag is not well-formed.");
+        if (name != open.name)
+            FailAt(start,
+                   "End tag '" + std::string(name) + "' does not match the start tag '" + std::string(open.name) + "'.");
+    }
     open_.pop_back();
-    namespaces_.Close();
+    if (open.scoped) namespaces_.Close();
 }
 
 }  // namespace

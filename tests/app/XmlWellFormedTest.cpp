@@ -1,13 +1,16 @@
 // The XML layer reads only what a conformant parser reads, and writes only
 // what it reads; libxml2 is the referee of both.
+#include "app/XmlCheck.h"
 #include "app/XmlDocument.h"
 #include "support/TextCompare.h"
 #include "testsupport/XmlReferee.h"
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace flowloom::test {
@@ -272,6 +275,81 @@ TEST(XmlOutline, LoadOutlineKeepsTheRootsAttributesAndChildrenParseAlone) {
     EXPECT_STREQ(child.attribute("n").value(), "\xC3\xA4");
     EXPECT_FALSE(document.LoadOutline("<R><A></R>", storage, outline));
     EXPECT_EQ(document.ParseError().line, 1);
+}
+
+}  // namespace
+}  // namespace flowloom
+
+namespace flowloom {
+namespace {
+
+// Where and why the checker refuses a text; nothing when it is a document.
+std::optional<std::pair<std::size_t, std::string>> Refusal(std::string_view text) {
+    const std::optional<XmlSyntaxError> error = CheckXmlDocument(text);
+    if (!error) return std::nullopt;
+    return std::make_pair(error->offset, error->reason);
+}
+
+// Names, attribute values and text are read many bytes at a time; the byte
+// that ends them counts wherever it stands in such a block.
+TEST(XmlCheck, RunsEndAtTheirFirstByteWhereverItStands) {
+    constexpr const char* kInvalid = "An invalid character was found in text content.";
+    const std::string run(40, 'a');
+    for (std::size_t at = 0; at <= run.size(); ++at) {
+        SCOPED_TRACE(at);
+        const auto with = [&](std::string_view inserted) { return std::string(run).insert(at, inserted); };
+        using Expected = std::optional<std::pair<std::size_t, std::string>>;
+        // A name goes on over a character beyond ASCII and stops at one that is no name character.
+        EXPECT_EQ(Refusal("<x" + with("\xC3\xA9") + "/>"), std::nullopt);
+        EXPECT_EQ(Refusal("<x" + with("\xC3\x97") + "/>"),
+                  Expected({2 + at, "White space is required between attributes."}));
+        EXPECT_EQ(Refusal("<x" + with("\xFF") + "/>"), Expected({2 + at, "The bytes are not UTF-8."}));
+        // A colon anywhere makes a prefix that must be declared, or no qualified name at all.
+        EXPECT_EQ(Refusal("<x" + with(":") + "/>").value().first, 1u);
+        EXPECT_EQ(Refusal("<R x" + with(":") + "=\"1\"/>").value().first, 3u);
+        // Values and text take line ends, tabs, the other quote and characters beyond ASCII.
+        for (const char* taken : {"\t", "\r\n", "'", "\xC3\xA9", "&amp;", "]"}) {
+            EXPECT_EQ(Refusal("<R v=\"" + with(taken) + "\"/>"), std::nullopt) << taken;
+            EXPECT_EQ(Refusal("<R>" + with(taken) + "</R>"), std::nullopt) << taken;
+        }
+        EXPECT_EQ(Refusal("<R v=\"" + with("\x01") + "\"/>"), Expected({6 + at, kInvalid}));
+        EXPECT_EQ(Refusal("<R v=\"" + with("<") + "\"/>"),
+                  Expected({6 + at, "The character '<' cannot be used in an attribute value."}));
+        EXPECT_EQ(Refusal("<R v=\"" + with("\xED\xA0\x80") + "\"/>"), Expected({6 + at, "The bytes are not UTF-8."}));
+        EXPECT_EQ(Refusal("<R>" + with("\x1F") + "</R>"), Expected({3 + at, kInvalid}));
+        EXPECT_EQ(Refusal("<R>" + with("]]>") + "</R>"),
+                  Expected({3 + at, "The literal string ']]>' is not allowed in element content."}));
+    }
+}
+
+TEST(XmlCheck, ADuplicateAttributeIsRefusedAtItsSecondNameHoweverManyStandBeforeIt) {
+    for (const int count : {1, 2, 7, 31, 32, 33, 40}) {
+        for (const std::string element : {"R", "p:R xmlns:p=\"u\""}) {
+            SCOPED_TRACE(std::to_string(count) + " " + element);
+            std::string tag = "<" + element;
+            for (int i = 0; i < count; ++i) tag += " a" + std::to_string(i) + "=\"1\"";
+            const std::size_t second = tag.size() + 1;
+            tag += " a" + std::to_string(count / 2) + "=\"2\" b=\"3\"/>";
+            EXPECT_EQ(Refusal(tag), std::make_optional(std::make_pair(second, std::string("Duplicate attribute."))));
+        }
+    }
+    // Names of one length with the same ends are still different names.
+    EXPECT_EQ(Refusal("<R axb=\"1\" ayb=\"2\" azb=\"3\"><A axb=\"1\" axxb=\"2\"/></R>"), std::nullopt);
+}
+
+TEST(XmlCheck, TagsCutShortAndEndTagsAreJudgedByTheirWholeName) {
+    const std::string longName(40, 'n');
+    EXPECT_EQ(Refusal("<" + longName), std::make_optional(std::make_pair(longName.size() + 1, std::string("The start tag is not closed."))));
+    EXPECT_EQ(Refusal("<R a").value().second, "Missing equals sign between attribute and attribute value.");
+    EXPECT_EQ(Refusal("<R></R"), std::make_optional(std::make_pair(std::size_t{6}, std::string("The end tag is not well-formed."))));
+    EXPECT_EQ(Refusal("<Rabc></Rab>").value().first, 6u);
+    EXPECT_EQ(Refusal("<Rab></Rabc>").value().first, 5u);
+    EXPECT_EQ(Refusal("<R></R >"), std::nullopt);
+    // A declaration holds for its element only, with plain elements around it.
+    EXPECT_EQ(Refusal("<R xmlns:p=\"u\"><A><p:B/></A><p:C></p:C></R>"), std::nullopt);
+    EXPECT_EQ(Refusal("<R><A xmlns:q=\"v\"><B/></A><q:D/></R>"),
+              std::make_optional(std::make_pair(std::size_t{27}, std::string("Reference to undeclared namespace prefix."))));
+    EXPECT_EQ(Refusal("<R><A xmlns:q=\"v\"/><q:D/></R>").value().first, 20u);
 }
 
 }  // namespace
