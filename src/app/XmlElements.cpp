@@ -3,26 +3,48 @@
 #include <charconv>
 #include <cstring>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace flowloom {
 
 namespace {
 
 bool IsSpace(char c) noexcept { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
-// Bytes that end a name in a tag (blanks, "=", "/", ">"), and bytes of a
-// value that a parser does not deliver as they are ("&" and white space).
-struct ByteClasses {
-    bool endsName[256] = {};
-    bool needsDecoding[256] = {};
-    constexpr ByteClasses() {
-        for (const unsigned char c : {' ', '\t', '\r', '\n', '=', '/', '>'}) endsName[c] = true;
-        for (const unsigned char c : {'&', '\t', '\r', '\n'}) needsDecoding[c] = true;
+// Bytes that end a name in a tag: blanks, "=", "/", ">".
+struct NameEnds {
+    bool table[256] = {};
+    constexpr NameEnds() {
+        for (const unsigned char c : {' ', '\t', '\r', '\n', '=', '/', '>'}) table[c] = true;
     }
 };
-constexpr ByteClasses kClasses;
+constexpr NameEnds kNameEnds;
+
+// The first byte from pos on that is the quote, "&" or a control character
+// (the check lets only tab, CR and LF through), or the end of the text.
+std::size_t ValueStop(std::string_view text, std::size_t pos, char quote) noexcept {
+#if defined(__SSE2__)
+    const __m128i quotes = _mm_set1_epi8(quote);
+    const __m128i ampersands = _mm_set1_epi8('&');
+    const __m128i control = _mm_set1_epi8(0x1F);
+    for (; pos + 16 <= text.size(); pos += 16) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text.data() + pos));
+        const __m128i stop = _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bytes, quotes), _mm_cmpeq_epi8(bytes, ampersands)),
+                                          _mm_cmpeq_epi8(_mm_max_epu8(bytes, control), control));
+        if (const int mask = _mm_movemask_epi8(stop)) return pos + static_cast<std::size_t>(__builtin_ctz(static_cast<unsigned>(mask)));
+    }
+#endif
+    for (; pos < text.size(); ++pos) {
+        const auto c = static_cast<unsigned char>(text[pos]);
+        if (c == static_cast<unsigned char>(quote) || c == '&' || c < 0x20) return pos;
+    }
+    return pos;
+}
 
 std::size_t NameEnd(std::string_view text, std::size_t pos) noexcept {
-    while (pos < text.size() && !kClasses.endsName[static_cast<unsigned char>(text[pos])]) ++pos;
+    while (pos < text.size() && !kNameEnds.table[static_cast<unsigned char>(text[pos])]) ++pos;
     return pos;
 }
 
@@ -229,9 +251,10 @@ bool XmlElements::ReadAttribute(std::string_view text, std::size_t& pos) {
     if (pos >= text.size() || (text[pos] != '"' && text[pos] != '\'')) return false;
     const char quote = text[pos++];
     const std::size_t start = pos;
-    bool plain = true;
-    for (; pos < text.size() && text[pos] != quote; ++pos) plain &= !kClasses.needsDecoding[static_cast<unsigned char>(text[pos])];
-    if (pos >= text.size()) return false;
+    pos = ValueStop(text, pos, quote);
+    const bool plain = pos < text.size() && text[pos] == quote;
+    if (!plain) pos = text.find(quote, pos);
+    if (pos == std::string_view::npos) return false;
     const std::string_view raw = text.substr(start, pos - start);
     ++pos;
     if (plain) {

@@ -62,6 +62,13 @@ TEST(XmlElements, GiveTheTreeAParserGives) {
     ExpectAsParser("<p:A xmlns:p='urn:p' p:b='1'><p:A><p:A/></p:A><A/></p:A>");
     // Line ends and blanks inside tags.
     ExpectAsParser("<A\r\n  a='1'\n\tb='2'\n/>");
+    // Long values are scanned in blocks: a reference, a line end or the
+    // other quote at every place of the first blocks, and UTF-8 around them.
+    for (std::size_t at = 0; at < 40; ++at)
+        for (const char* special : {"&amp;", "\t", "\r\n", "\"", "\xc3\xa9"}) {
+            const std::string value = std::string(at, 'v') + special + std::string(40 - at, 'w');
+            ExpectAsParser("<A v='" + value + "' next='n'/>");
+        }
 }
 
 TEST(XmlElements, ChildLookUpsMatchNamesExactly) {
