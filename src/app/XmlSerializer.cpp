@@ -141,7 +141,7 @@ void AppendEscaped(std::string& out, std::string_view text, bool attribute) {
             continue;
         }
         ++pos;
-        const char* escape = kReplacementUtf8.data();  // for the control characters
+        std::string_view escape = kReplacementUtf8;  // for the control characters
         switch (byte) {
         case '&': escape = "&amp;"; break;
         case '<': escape = "&lt;"; break;
