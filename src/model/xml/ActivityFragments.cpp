@@ -6,6 +6,7 @@
 #include "model/AddRecord.h"
 #include "model/Convert.h"
 #include "model/FieldValue.h"
+#include "model/List.h"
 #include "model/MailMerge.h"
 #include "model/PrintOut.h"
 #include "model/Process.h"
@@ -50,6 +51,18 @@ void WriteArguments(Sink& out, const Activity& activity, Arg first, Arg last) {
     const auto& views = NameViews<names>();
     for (auto i = static_cast<std::size_t>(first); i <= static_cast<std::size_t>(last); ++i)
         xmlw::Tagged(out, views[i], activity.Argument(static_cast<Arg>(i)));
+}
+
+// A SendMail's recipients as its RecipientsToText and the like give them
+// (the fixed text, else the list's), without a copy unless a list's values
+// are joined.
+template <typename Sink, typename Joined>
+void WriteRecipients(Sink& out, std::string_view name, const std::string& fixed, const std::shared_ptr<List>& list,
+                     Joined joined) {
+    if (!fixed.empty()) return xmlw::Text(out, name, fixed);
+    if (!list) return;
+    if (const std::string& text = list->StoredText(); !text.empty()) return xmlw::Text(out, name, text);
+    xmlw::Text(out, name, joined());
 }
 
 // The datasource name of a SendMail or AddRecord, unless it is the
@@ -150,9 +163,9 @@ void CProcessesXMLDoc::SendMailFragment(const SendMail& activity, Sink& out) {
         WriteTarget(out, activity.Target());
         xmlw::Text(out, "InputDocumentName", activity.InputDocumentName());
         xmlw::Text(out, "OutputDocumentName", activity.OutputDocumentName());
-        xmlw::Text(out, "To", activity.RecipientsToText());
-        xmlw::Text(out, "CC", activity.RecipientsCCText());
-        xmlw::Text(out, "BCC", activity.RecipientsBCCText());
+        WriteRecipients(out, "To", activity.RecipientsTo(), activity.To_(), [&] { return activity.RecipientsToText(); });
+        WriteRecipients(out, "CC", activity.RecipientsCC(), activity.CC(), [&] { return activity.RecipientsCCText(); });
+        WriteRecipients(out, "BCC", activity.RecipientsBCC(), activity.BCC(), [&] { return activity.RecipientsBCCText(); });
         xmlw::Text(out, "Subject", activity.Subject());
         xmlw::Text(out, "Body", activity.Body());
         xmlw::NonZero(out, "SendMethod", activity.SendMethod());
