@@ -116,42 +116,40 @@ std::size_t ScanPlainValue(char* out, std::string_view value) noexcept {
 // Escapes for attribute values and text: the markup characters as entities;
 // tab, line feed and carriage return in attribute values (and carriage
 // return in text) as character references, so that a parser hands back
-// exactly what was written.
+// exactly what was written; characters XML does not allow as U+FFFD. The
+// escape of what stands at `pos`, which is no plain ASCII, moving `pos`
+// behind it; "" for a character beyond ASCII that goes out as it is.
+std::string_view EscapeAt(std::string_view text, std::size_t& pos) {
+    const unsigned char byte = static_cast<unsigned char>(text[pos]);
+    if (byte >= 0x80) {
+        const char32_t c = xmlchars::NextChar(text, pos);
+        return c != xmlchars::kNotUtf8 && xmlchars::IsXmlChar(c) ? std::string_view() : kReplacementUtf8;
+    }
+    ++pos;
+    switch (byte) {
+    case '&': return "&amp;";
+    case '<': return "&lt;";
+    case '>': return "&gt;";
+    case '"': return "&quot;";
+    case '\t': return "&#9;";
+    case '\n': return "&#10;";
+    case '\r': return "&#13;";
+    default: return kReplacementUtf8;  // the control characters
+    }
+}
+
 void AppendEscaped(std::string& out, std::string_view text, bool attribute) {
     const bool(&plain)[256] = attribute ? kPlain.value : kPlain.text;
     std::size_t run = 0;  // start of the characters that go out as they are
     std::size_t pos = 0;
     while (pos < text.size()) {
-        if (attribute) {
-            pos += ScanPlainValue<false>(nullptr, text.substr(pos));
-            if (pos == text.size()) break;
-        }
+        if (attribute) pos += ScanPlainValue<false>(nullptr, text.substr(pos));
+        else
+            while (pos < text.size() && plain[static_cast<unsigned char>(text[pos])]) ++pos;
+        if (pos == text.size()) break;
         const std::size_t at = pos;
-        const unsigned char byte = static_cast<unsigned char>(text[pos]);
-        if (plain[byte]) {
-            ++pos;
-            continue;
-        }
-        if (byte >= 0x80) {
-            const char32_t c = xmlchars::NextChar(text, pos);
-            if (c != xmlchars::kNotUtf8 && xmlchars::IsXmlChar(c)) continue;
-            out.append(text, run, at - run);
-            out += kReplacementUtf8;
-            run = pos;
-            continue;
-        }
-        ++pos;
-        std::string_view escape = kReplacementUtf8;  // for the control characters
-        switch (byte) {
-        case '&': escape = "&amp;"; break;
-        case '<': escape = "&lt;"; break;
-        case '>': escape = "&gt;"; break;
-        case '"': escape = "&quot;"; break;
-        case '\t': escape = "&#9;"; break;
-        case '\n': escape = "&#10;"; break;
-        case '\r': escape = "&#13;"; break;
-        default: break;
-        }
+        const std::string_view escape = EscapeAt(text, pos);
+        if (escape.empty()) continue;
         out.append(text, run, at - run);
         out += escape;
         run = pos;
@@ -306,6 +304,22 @@ void AppendEscapedXml(std::string& out, std::string_view text, bool attribute) {
 
 std::size_t CopyPlainAttributeValue(char* out, std::string_view value) noexcept {
     return ScanPlainValue<true>(out, value);
+}
+
+char* WriteEscapedAttributeValue(char* out, std::string_view value) noexcept {
+    // No byte becomes more than kEscapedValueRoom bytes, so the room left
+    // always holds the rest of the value, which the plain copy may write.
+    for (std::size_t pos = 0;;) {
+        const std::size_t plain = ScanPlainValue<true>(out, value.substr(pos));
+        out += plain;
+        pos += plain;
+        if (pos == value.size()) return out;
+        const std::size_t at = pos;
+        std::string_view escape = EscapeAt(value, pos);
+        if (escape.empty()) escape = value.substr(at, pos - at);
+        std::memcpy(out, escape.data(), escape.size());
+        out += escape.size();
+    }
 }
 
 std::string SerializeNode(const pugi::xml_node& node, std::size_t sizeHint) {

@@ -12,6 +12,10 @@ namespace {
 // zero-filling resize leaves it in the cache for the writes that follow.
 constexpr std::size_t kRoomStep = 32 * 1024;
 
+// The longest rest of a value escaped straight into the text: its room is
+// made for the worst case, which a long value would make much too large.
+constexpr std::size_t kEscapedInPlace = 4096;
+
 }  // namespace
 
 void PugiXmlSink::Start(std::string_view name) {
@@ -35,6 +39,13 @@ void TextXmlSink::Grow(std::size_t size) {
 }
 
 void TextXmlSink::EscapedValueEnd(std::string_view rest) {
+    if (rest.size() <= kEscapedInPlace) {
+        char* const start = Room(kEscapedValueRoom * rest.size() + 1);
+        char* end = WriteEscapedAttributeValue(start, rest);
+        *end++ = '"';
+        used_ += static_cast<std::size_t>(end - start);
+        return;
+    }
     escaped_.clear();
     AppendEscapedXml(escaped_, rest, true);
     escaped_ += '"';

@@ -125,6 +125,11 @@ void AppendEscapedXml(std::string& out, std::string_view text, bool attribute);
 // Copies the bytes at the start of an attribute value that go out as they
 // are to `out` (room for value.size() bytes); how many.
 std::size_t CopyPlainAttributeValue(char* out, std::string_view value) noexcept;
+// Writes an attribute value escaped as AppendEscapedXml escapes it to `out`,
+// which has room for kEscapedValueRoom bytes for each of the value's; the
+// end of what it wrote.
+inline constexpr std::size_t kEscapedValueRoom = 6;  // "&quot;"
+char* WriteEscapedAttributeValue(char* out, std::string_view value) noexcept;
 
 inline void TextXmlSink::Start(std::string_view name) {
     open_.push_back(name);

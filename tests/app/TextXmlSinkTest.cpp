@@ -61,6 +61,10 @@ TEST(TextXmlSink, EscapesWhatNeedsItAtEveryPositionOfAValue) {
             }
         }
         ASSERT_EQ(OneAttribute(Filler(size, 3)), "<e a=\"" + Filler(size, 3) + "\"/>");
+        // Every byte escaped, to the longest escape.
+        std::string quotes;
+        for (std::size_t i = 0; i < size; ++i) quotes += "&quot;";
+        ASSERT_EQ(OneAttribute(std::string(size, '"')), "<e a=\"" + quotes + "\"/>");
     }
     EXPECT_EQ(OneAttribute(""), "<e a=\"\"/>");
 }

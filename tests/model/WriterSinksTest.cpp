@@ -4,6 +4,7 @@
 #include "ModelFixture.h"
 
 #include "model/Activities.h"
+#include "model/Groups.h"
 #include "model/List.h"
 #include "model/Process.h"
 #include "model/SendMail.h"
@@ -47,6 +48,28 @@ TEST_F(WriterSinks, RecipientsAreTheFixedTextElseTheListsTextOrItsValuesJoined) 
     EXPECT_NE(written.find(R"(<SendMail To="a@x.org;b@y.org" CC="fixed@x.org"/>)"), std::string::npos) << written;
     sendMail->SetRecipientsCC("");
     EXPECT_NE(ProcessFragmentXml(*process).find(R"(CC="listed@x.org"/>)"), std::string::npos);
+}
+
+TEST_F(WriterSinks, AWriterUsedAgainSeesTheFilesGroupsAsTheyAreNow) {
+    auto processes = LoadText(Document(R"(<Process Name="a"><Groups><Group Name="Office"/></Groups></Process>)"
+                                       R"(<Process Name="b"><Groups><Group Name="Office"/></Groups></Process>)"
+                                       R"(<Groups><Group Name="OFFICE"/></Groups>)"));
+    CProcessesXMLDoc writer;
+    const auto written = [&] {
+        TextXmlSink sink;
+        writer.WriteRoot(*processes, sink);
+        return sink.Finish();
+    };
+    const std::string both = R"(<Groups><Group Name="OFFICE"/></Groups></Process>)";
+    std::string text = written();
+    EXPECT_NE(text.find("a\" ProcessRecords=\"Current\">" + both), std::string::npos) << text;
+    EXPECT_NE(text.find("b\" ProcessRecords=\"Current\">" + both), std::string::npos) << text;
+    (*processes->Groups()->begin())->name = "Desk";
+    EXPECT_NE(written().find(R"(<Group Name="Desk"/></Groups></Process>)"), std::string::npos);
+    processes->Groups()->Remove(CollectionPosition{1});
+    text = written();
+    EXPECT_EQ(text.find("Desk"), std::string::npos) << text;
+    EXPECT_NE(text.find(R"(<Process Name="b" ProcessRecords="Current"><Groups/></Process>)"), std::string::npos);
 }
 
 }  // namespace

@@ -95,7 +95,7 @@ void CProcessesXMLDoc::WriteProcess(const Process& process, Sink& out) {
             auto owner = process.Parent();
             for (const auto& group : *process.Groups()) {
                 std::shared_ptr<Group> known;
-                if (owner && owner->HasGroups()) known = owner->Groups()->Find(group->name);
+                if (owner && owner->HasGroups()) known = KnownGroup(owner->Groups(), group->name);
                 if (known && !known->name.empty()) GroupFragment(*known, out);
             }
         }
@@ -104,6 +104,15 @@ void CProcessesXMLDoc::WriteProcess(const Process& process, Sink& out) {
             for (const auto& fieldValue : *process.FieldValues()) FieldValueFragment(*fieldValue, out);
         }
     });
+}
+
+std::shared_ptr<Group> CProcessesXMLDoc::KnownGroup(const std::shared_ptr<Groups>& groups, const std::string& name) {
+    // Kept while the model is unchanged (every edit counts a revision); the
+    // collection is held, so that no other one can take its place meanwhile.
+    const std::uint64_t revision = ModelRevision::Current();
+    if (groups != lastGroup_.groups || name != lastGroup_.name || revision != lastGroup_.revision)
+        lastGroup_ = {groups, name, revision, groups->Find(name)};
+    return lastGroup_.found;
 }
 
 template <typename Sink>

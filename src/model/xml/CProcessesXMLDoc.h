@@ -6,6 +6,7 @@
 
 #include <pugixml.hpp>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -65,7 +66,17 @@ private:
     template <typename Sink>
     void FieldValueFragment(const FieldValue& fieldValue, Sink& out);
 
+    // The file's group of a process's group name: the last one found is
+    // kept, as processes often name the same.
+    std::shared_ptr<Group> KnownGroup(const std::shared_ptr<Groups>& groups, const std::string& name);
+
     std::string quoted_;  // a field value with its quotes as entities, reused
+    struct FoundGroup {
+        std::shared_ptr<Groups> groups;
+        std::string name;
+        std::uint64_t revision = 0;
+        std::shared_ptr<Group> found;
+    } lastGroup_;
 };
 
 // The serialised Process element alone, as the designer copies a process.
