@@ -39,10 +39,10 @@ std::string SerializedAttribute(std::string_view value) {
 }
 
 TEST(TextXmlSink, EscapesWhatNeedsItAtEveryPositionOfAValue) {
-    struct Special {
+    struct Escape {
         std::string_view raw, written;
     };
-    const std::vector<Special> specials = {
+    const std::vector<Escape> escapes = {
         {"\"", "&quot;"}, {"&", "&amp;"}, {"<", "&lt;"}, {">", "&gt;"}, {"\t", "&#9;"}, {"\n", "&#10;"},
         {"\r", "&#13;"}, {"\x01", "\xEF\xBF\xBD"}, {"\x1F", "\xEF\xBF\xBD"},
         {"\xC3\xA9", "\xC3\xA9"}, {"\xE2\x82\xAC", "\xE2\x82\xAC"},  // characters beyond ASCII stay
@@ -50,12 +50,12 @@ TEST(TextXmlSink, EscapesWhatNeedsItAtEveryPositionOfAValue) {
     };
     for (std::size_t size = 1; size <= 26; ++size) {
         for (std::size_t at = 0; at < size; ++at) {
-            for (const Special& special : specials) {
+            for (const Escape& escape : escapes) {
                 const std::string before = Filler(at, size), after = Filler(size - at - 1, at);
-                const std::string value = before + std::string(special.raw) + after;
+                const std::string value = before + std::string(escape.raw) + after;
                 SCOPED_TRACE(testing::Message() << "size " << size << " at " << at << ": " << value);
                 const std::string expected =
-                    "<e a=\"" + before + std::string(special.written) + after + "\"/>";
+                    "<e a=\"" + before + std::string(escape.written) + after + "\"/>";
                 ASSERT_EQ(OneAttribute(value), expected);
                 ASSERT_EQ(SerializedAttribute(value), expected);
             }
