@@ -2,10 +2,21 @@
 
 #include "app/XmlDocument.h"
 
-#include <cassert>
-#include <cstring>
+#include <algorithm>
 
 namespace flowloom {
+
+namespace {
+
+// How far ahead of the writing the room is made: small enough that the
+// zero-filling resize leaves it in the cache for the writes that follow.
+constexpr std::size_t kRoomStep = 32 * 1024;
+
+// The longest rest of a value escaped straight into the text: its room is
+// made for the worst case, which a long value would make much too large.
+constexpr std::size_t kEscapedInPlace = 4096;
+
+}  // namespace
 
 void PugiXmlSink::Start(std::string_view name) {
     stack_.push_back(stack_.back().append_child(std::string(name).c_str()));
@@ -16,74 +27,50 @@ void PugiXmlSink::Attribute(std::string_view name, std::string_view value) {
 }
 
 TextXmlSink::TextXmlSink(std::size_t sizeHint, Consumer consumer, std::size_t chunk)
-    : consumer_(std::move(consumer)), chunk_(chunk) {
-    out_.reserve(consumer_ ? chunk_ + chunk_ / 4 : sizeHint);
+    : consumer_(std::move(consumer)) {
+    if (consumer_) handOverAt_ = chunk;
+    buffer_.reserve(consumer_ ? chunk + chunk / 4 : sizeHint);
 }
 
-void TextXmlSink::Start(std::string_view name) {
-    if (stopped_) return open_.push_back(name);
-    CloseStartTag();
-    MaybeHandOver();
-    out_ += '<';
-    out_ += name;
-    open_.push_back(name);
-    startTagOpen_ = true;
+void TextXmlSink::Grow(std::size_t size) {
+    const std::size_t needed = used_ + size;
+    if (needed > buffer_.capacity()) buffer_.reserve(std::max(needed, 2 * buffer_.capacity()));
+    buffer_.resize(std::min(buffer_.capacity(), std::max(needed, used_ + kRoomStep)));
 }
 
-void TextXmlSink::Attribute(std::string_view name, std::string_view value) {
-    if (stopped_) return;
-    assert(startTagOpen_ && "attributes go before the children");
-    // The plain start of the value goes out with the name in one piece.
-    const std::size_t plain = PlainAttributeLength(value);
-    const std::size_t at = out_.size();
-    out_.resize(at + name.size() + plain + 4);
-    char* p = out_.data() + at;
-    *p++ = ' ';
-    std::memcpy(p, name.data(), name.size());
-    p += name.size();
-    *p++ = '=';
-    *p++ = '"';
-    std::memcpy(p, value.data(), plain);
-    p[plain] = '"';
-    if (plain == value.size()) return;
-    out_.pop_back();
-    AppendEscapedXml(out_, value.substr(plain), true);
-    out_ += '"';
-}
-
-void TextXmlSink::End() {
-    const std::string_view name = open_.back();
-    open_.pop_back();
-    if (stopped_) return;
-    if (startTagOpen_) {
-        out_ += "/>";
-        startTagOpen_ = false;
+void TextXmlSink::EscapedValueEnd(std::string_view rest) {
+    if (rest.size() <= kEscapedInPlace) {
+        char* const start = Room(kEscapedValueRoom * rest.size() + 1);
+        char* end = WriteEscapedAttributeValue(start, rest);
+        *end++ = '"';
+        used_ += static_cast<std::size_t>(end - start);
         return;
     }
-    out_ += "</";
-    out_ += name;
-    out_ += '>';
+    escaped_.clear();
+    AppendEscapedXml(escaped_, rest, true);
+    escaped_ += '"';
+    Append(escaped_);
 }
 
 void TextXmlSink::Subtree(const pugi::xml_node& element) {
     if (stopped_) return;
-    CloseStartTag();
-    out_ += SerializeNode(element);
+    if (startTagOpen_) {
+        Append(">");
+        startTagOpen_ = false;
+    }
+    Append(SerializeNode(element));
 }
 
-void TextXmlSink::MaybeHandOver() {
-    if (!consumer_ || out_.size() < chunk_) return;
-    stopped_ = !consumer_(out_);
-    out_.clear();
+void TextXmlSink::HandOver() {
+    stopped_ = !consumer_(std::string_view(buffer_.data(), used_));
+    used_ = 0;
 }
 
 std::string TextXmlSink::Finish() {
     EndTo(0);
-    if (consumer_ && !stopped_) {
-        stopped_ = !consumer_(out_);
-        out_.clear();
-    }
-    return std::move(out_);
+    if (consumer_ && !stopped_) HandOver();
+    buffer_.resize(used_);
+    return std::move(buffer_);
 }
 
 }  // namespace flowloom

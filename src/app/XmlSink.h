@@ -2,8 +2,11 @@
 
 #include <pugixml.hpp>
 
+#include <cassert>
 #include <cstddef>
+#include <cstring>
 #include <functional>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,7 +16,9 @@ namespace flowloom {
 // Where a writer of XML puts elements and attributes, in document order: a
 // pugixml tree, or text straight away. Element and attribute names given to
 // Start and Attribute must be valid names without a prefix (the writers use
-// fixed names); anything else goes through Subtree.
+// fixed names); anything else goes through Subtree. Both sinks are final, so
+// a writer that takes the sink's own type calls them without dispatch (and
+// the text sink's short operations are inlined there).
 class XmlSink {
 public:
     virtual ~XmlSink() = default;
@@ -35,15 +40,19 @@ public:
 
 // An element of a writer: started at once, and ended with whatever it holds
 // however the writer's block is left (an error ends it with what it has).
+// `Sink` is XmlSink or one of the sinks below.
+template <typename Sink>
 class XmlElement {
 public:
-    XmlElement(XmlSink& out, std::string_view name) : out_(out), depth_(out.Depth()) { out.Start(name); }
-    ~XmlElement() { out_.EndTo(depth_); }
+    XmlElement(Sink& out, std::string_view name) : out_(out), depth_(out.Depth()) { out.Start(name); }
+    ~XmlElement() {
+        while (out_.Depth() > depth_) out_.End();
+    }
     XmlElement(const XmlElement&) = delete;
     XmlElement& operator=(const XmlElement&) = delete;
 
 private:
-    XmlSink& out_;
+    Sink& out_;
     std::size_t depth_;
 };
 
@@ -71,7 +80,7 @@ public:
     using Consumer = std::function<bool(std::string_view)>;
     explicit TextXmlSink(std::size_t sizeHint = 0, Consumer consumer = {}, std::size_t chunk = 1 << 16);
 
-    void Declaration() { out_ += R"(<?xml version="1.0" encoding="UTF-8"?>)"; }
+    void Declaration() { Append(R"(<?xml version="1.0" encoding="UTF-8"?>)"); }
     void Start(std::string_view name) override;
     void Attribute(std::string_view name, std::string_view value) override;
     void End() override;
@@ -83,25 +92,99 @@ public:
     std::string Finish();
 
 private:
-    void CloseStartTag() {
-        if (!startTagOpen_) return;
-        out_ += '>';
-        startTagOpen_ = false;
+    // Room for `size` bytes at the end of the text.
+    char* Room(std::size_t size) {
+        if (buffer_.size() - used_ < size) Grow(size);
+        return buffer_.data() + used_;
     }
-    void MaybeHandOver();
+    void Grow(std::size_t size);
+    void Append(std::string_view text) {
+        std::memcpy(Room(text.size()), text.data(), text.size());
+        used_ += text.size();
+    }
+    // The rest of an attribute value from its first byte that needs escaping,
+    // and the closing quote.
+    void EscapedValueEnd(std::string_view rest);
+    void HandOver();
 
-    std::string out_;
+    // The text is buffer_'s first used_ bytes; the rest is room to write,
+    // made (and so zero-filled) a little at a time ahead of the writing.
+    std::string buffer_;
+    std::size_t used_ = 0;
+    std::size_t handOverAt_ = std::numeric_limits<std::size_t>::max();
+    std::string escaped_;  // reused for the escaped part of a value
     std::vector<std::string_view> open_;
     bool startTagOpen_ = false;
     bool stopped_ = false;
     Consumer consumer_;
-    std::size_t chunk_;
 };
 
 // Appends text escaped as the serialiser escapes attribute values (`attribute`)
 // or element text: characters XML does not allow become U+FFFD.
 void AppendEscapedXml(std::string& out, std::string_view text, bool attribute);
-// How many bytes at the start of an attribute value go out as they are.
-std::size_t PlainAttributeLength(std::string_view value) noexcept;
+// Copies the bytes at the start of an attribute value that go out as they
+// are to `out` (room for value.size() bytes); how many.
+std::size_t CopyPlainAttributeValue(char* out, std::string_view value) noexcept;
+// Writes an attribute value escaped as AppendEscapedXml escapes it to `out`,
+// which has room for kEscapedValueRoom bytes for each of the value's; the
+// end of what it wrote.
+inline constexpr std::size_t kEscapedValueRoom = 6;  // "&quot;"
+char* WriteEscapedAttributeValue(char* out, std::string_view value) noexcept;
+
+inline void TextXmlSink::Start(std::string_view name) {
+    open_.push_back(name);
+    if (stopped_) return;
+    if (startTagOpen_) {
+        Append(">");
+        startTagOpen_ = false;
+    }
+    if (used_ >= handOverAt_) {
+        HandOver();
+        if (stopped_) return;
+    }
+    char* p = Room(name.size() + 1);
+    *p = '<';
+    std::memcpy(p + 1, name.data(), name.size());
+    used_ += name.size() + 1;
+    startTagOpen_ = true;
+}
+
+inline void TextXmlSink::Attribute(std::string_view name, std::string_view value) {
+    if (stopped_) return;
+    assert(startTagOpen_ && "attributes go before the children");
+    // Name and value go out in one piece, unless the value needs escaping.
+    char* const start = Room(name.size() + value.size() + 4);
+    char* p = start;
+    *p++ = ' ';
+    std::memcpy(p, name.data(), name.size());
+    p += name.size();
+    *p++ = '=';
+    *p++ = '"';
+    const std::size_t plain = CopyPlainAttributeValue(p, value);
+    p += plain;
+    if (plain < value.size()) {
+        used_ += static_cast<std::size_t>(p - start);
+        return EscapedValueEnd(value.substr(plain));
+    }
+    *p++ = '"';
+    used_ += static_cast<std::size_t>(p - start);
+}
+
+inline void TextXmlSink::End() {
+    const std::string_view name = open_.back();
+    open_.pop_back();
+    if (stopped_) return;
+    if (startTagOpen_) {
+        Append("/>");
+        startTagOpen_ = false;
+        return;
+    }
+    char* p = Room(name.size() + 3);
+    p[0] = '<';
+    p[1] = '/';
+    std::memcpy(p + 2, name.data(), name.size());
+    p[name.size() + 2] = '>';
+    used_ += name.size() + 3;
+}
 
 }  // namespace flowloom

@@ -17,6 +17,8 @@ public:
     std::string ValueList() const;
     // Stores the text; a non-empty text clears the array and the datasource.
     void SetValueList(std::string text);
+    // The stored text alone ("" for an array or a datasource).
+    const std::string& StoredText() const noexcept { return text_; }
 
     const std::string& ListSeparator() const noexcept { return separator_; }
     void SetListSeparator(std::string separator) { separator_ = std::move(separator); }

@@ -44,6 +44,9 @@ public:
     void SetRecipientsTo(std::string value) { recipientsTo_ = std::move(value); }
     void SetRecipientsCC(std::string value) { recipientsCC_ = std::move(value); }
     void SetRecipientsBCC(std::string value) { recipientsBCC_ = std::move(value); }
+    const std::string& RecipientsTo() const noexcept { return recipientsTo_; }
+    const std::string& RecipientsCC() const noexcept { return recipientsCC_; }
+    const std::string& RecipientsBCC() const noexcept { return recipientsBCC_; }
     // The fixed text if any, else the list's text, else "".
     std::string RecipientsToText() const;
     std::string RecipientsCCText() const;

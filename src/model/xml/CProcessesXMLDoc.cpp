@@ -1,7 +1,6 @@
 #include "model/xml/CProcessesXMLDoc.h"
 
 #include "support/ReportError.h"
-#include "support/VbStrings.h"
 #include "model/Activities.h"
 #include "model/Databases.h"
 #include "model/Datasources.h"
@@ -27,7 +26,8 @@ std::unique_ptr<XmlDocument> CProcessesXMLDoc::Generate(const Processes& process
     return document;
 }
 
-void CProcessesXMLDoc::WriteRoot(const Processes& processes, XmlSink& out) {
+template <typename Sink>
+void CProcessesXMLDoc::WriteRoot(const Processes& processes, Sink& out) {
     XmlElement root(out, "Processes");
     Guarded(kModule, "Generate", [&] {
         if (processes.Version() > 0) xmlw::Always(out, "Version", std::to_string(processes.Version()));
@@ -62,12 +62,13 @@ pugi::xml_node CProcessesXMLDoc::ProcessFragment(const Process& process, pugi::x
     return parent.last_child();
 }
 
-void CProcessesXMLDoc::WriteProcess(const Process& process, XmlSink& out) {
+template <typename Sink>
+void CProcessesXMLDoc::WriteProcess(const Process& process, Sink& out) {
     XmlElement element(out, "Process");
     Guarded(kModule, "ProcessFragment", [&] {
         xmlw::Text(out, "Name", process.name());
         xmlw::Text(out, "MainDatasourceName", process.MainDataSourceName());
-        xmlw::Always(out, "ProcessRecords", WordAt(kProcessRecordsWords, process.ProcessRecords()));
+        xmlw::Word<kProcessRecordsWords>(out, "ProcessRecords", process.ProcessRecords());
         if (process.AbortOnError() != Process::DefaultErrorSetting) xmlw::Bool(out, "AbortOnError", process.AbortOnError());
         if (process.OnErrorNotifyUser() != Process::DefaultErrorSetting)
             xmlw::Bool(out, "OnErrorNotifyUser", process.OnErrorNotifyUser());
@@ -94,7 +95,7 @@ void CProcessesXMLDoc::WriteProcess(const Process& process, XmlSink& out) {
             auto owner = process.Parent();
             for (const auto& group : *process.Groups()) {
                 std::shared_ptr<Group> known;
-                if (owner && owner->HasGroups()) known = owner->Groups()->Find(group->name);
+                if (owner && owner->HasGroups()) known = KnownGroup(owner->Groups(), group->name);
                 if (known && !known->name.empty()) GroupFragment(*known, out);
             }
         }
@@ -105,43 +106,64 @@ void CProcessesXMLDoc::WriteProcess(const Process& process, XmlSink& out) {
     });
 }
 
-void CProcessesXMLDoc::DatasourceFragment(const Datasource& datasource, XmlSink& out) {
+std::shared_ptr<Group> CProcessesXMLDoc::KnownGroup(const std::shared_ptr<Groups>& groups, const std::string& name) {
+    // Kept while the model is unchanged (every edit counts a revision); the
+    // collection is held, so that no other one can take its place meanwhile.
+    const std::uint64_t revision = ModelRevision::Current();
+    if (groups != lastGroup_.groups || name != lastGroup_.name || revision != lastGroup_.revision)
+        lastGroup_ = {groups, name, revision, groups->Find(name)};
+    return lastGroup_.found;
+}
+
+template <typename Sink>
+void CProcessesXMLDoc::DatasourceFragment(const Datasource& datasource, Sink& out) {
     XmlElement element(out, "Datasource");
     Guarded(kModule, "DatasourceFragment", [&] {
         xmlw::Text(out, "Name", datasource.name());
         xmlw::Text(out, "Type", datasource.Type_);
         xmlw::Text(out, "Database", datasource.Database);
         xmlw::Text(out, "ObjectName", datasource.ObjectName);
-        if (datasource.Records > 0) xmlw::Always(out, "Records", WordAt(kProcessRecordsWords, datasource.Records));
+        if (datasource.Records > 0) xmlw::Word<kProcessRecordsWords>(out, "Records", datasource.Records);
         xmlw::Text(out, "SubformFullName", datasource.SubFormFullName);
         xmlw::Text(out, "SaveXmlToFolder", datasource.SaveXmlToFolder);
     });
 }
 
-void CProcessesXMLDoc::DocumentFragment(const Document& document, XmlSink& out) {
+template <typename Sink>
+void CProcessesXMLDoc::DocumentFragment(const Document& document, Sink& out) {
     XmlElement element(out, "Document");
     xmlw::Text(out, "Name", document.name);
 }
 
-void CProcessesXMLDoc::DatabaseFragment(const Database& database, XmlSink& out) {
+template <typename Sink>
+void CProcessesXMLDoc::DatabaseFragment(const Database& database, Sink& out) {
     XmlElement element(out, "Database");
     xmlw::Text(out, "Name", database.name);
     xmlw::Text(out, "Location", database.Location);
     xmlw::Text(out, "Type", database.Type_);
 }
 
-void CProcessesXMLDoc::GroupFragment(const Group& group, XmlSink& out) {
+template <typename Sink>
+void CProcessesXMLDoc::GroupFragment(const Group& group, Sink& out) {
     XmlElement element(out, "Group");
     xmlw::Text(out, "Name", group.name);
 }
 
-void CProcessesXMLDoc::FieldValueFragment(const FieldValue& fieldValue, XmlSink& out) {
+template <typename Sink>
+void CProcessesXMLDoc::FieldValueFragment(const FieldValue& fieldValue, Sink& out) {
     XmlElement element(out, "FieldValue");
     xmlw::Text(out, "Name", fieldValue.field);
     // The quote goes in as an entity of its own, which the XML layer escapes
     // once more: the run-time reads the value back the same way.
-    if (fieldValue.value.find('"') == std::string::npos) xmlw::Text(out, "Value", fieldValue.value);
-    else xmlw::Text(out, "Value", vb::Replace(fieldValue.value, "\"", "&quot;"));
+    const std::string& value = fieldValue.value;
+    std::size_t quote = value.find('"');
+    if (quote == std::string::npos) return xmlw::Text(out, "Value", value);
+    quoted_.clear();
+    std::size_t start = 0;
+    for (; quote != std::string::npos; start = quote + 1, quote = value.find('"', start))
+        quoted_.append(value, start, quote - start).append("&quot;");
+    quoted_.append(value, start);
+    xmlw::Text(out, "Value", quoted_);
 }
 
 pugi::xml_node CProcessesXMLDoc::OptionFragment(const OptionItem& option, pugi::xml_node parent) {
@@ -169,5 +191,13 @@ std::string ProcessesFileXml(const Processes& processes, std::size_t sizeHint, T
     CProcessesXMLDoc().WriteRoot(processes, sink);
     return sink.Finish();
 }
+
+// The writers for both sinks; the activities' fragments take FieldValueFragment.
+template void CProcessesXMLDoc::WriteRoot(const Processes&, TextXmlSink&);
+template void CProcessesXMLDoc::WriteRoot(const Processes&, PugiXmlSink&);
+template void CProcessesXMLDoc::WriteProcess(const Process&, TextXmlSink&);
+template void CProcessesXMLDoc::WriteProcess(const Process&, PugiXmlSink&);
+template void CProcessesXMLDoc::FieldValueFragment(const FieldValue&, TextXmlSink&);
+template void CProcessesXMLDoc::FieldValueFragment(const FieldValue&, PugiXmlSink&);
 
 }  // namespace flowloom

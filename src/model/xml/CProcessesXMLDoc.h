@@ -6,6 +6,7 @@
 
 #include <pugixml.hpp>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -17,16 +18,21 @@ class OptionItem;
 // the attributes in the file's order, then the children. Failures are
 // reported under "CProcessesXMLDoc" and the fragment's name, and the
 // fragment ends with what it has. The operations on a pugixml parent append
-// the element there and return it.
+// the element there and return it. The writers take the sink's own type
+// (TextXmlSink or PugiXmlSink), so that the text is written without a call
+// through the interface for every attribute.
 class CProcessesXMLDoc {
 public:
     // The whole file as a document (the text writers do without one).
     std::unique_ptr<XmlDocument> Generate(const Processes& processes);
     // The root element and all it holds (not the declaration).
-    void WriteRoot(const Processes& processes, XmlSink& out);
+    template <typename Sink>
+    void WriteRoot(const Processes& processes, Sink& out);
 
-    void WriteProcess(const Process& process, XmlSink& out);
-    void WriteActivity(const Activity& activity, XmlSink& out);
+    template <typename Sink>
+    void WriteProcess(const Process& process, Sink& out);
+    template <typename Sink>
+    void WriteActivity(const Activity& activity, Sink& out);
 
     pugi::xml_node ProcessFragment(const Process& process, pugi::xml_node parent);
     // The fragment of the activity's own kind.
@@ -34,19 +40,43 @@ public:
     pugi::xml_node OptionFragment(const OptionItem& option, pugi::xml_node parent);
 
 private:
-    void MailMergeFragment(const MailMerge& activity, XmlSink& out);
-    void SaveAsFragment(const SaveAs& activity, XmlSink& out);
-    void PrintOutFragment(const PrintOut& activity, XmlSink& out);
-    void SendMailFragment(const SendMail& activity, XmlSink& out);
-    void SendFaxFragment(const SendFax& activity, XmlSink& out);
-    void AddRecordFragment(const AddRecord& activity, XmlSink& out);
-    void ConvertFragment(const Convert& activity, XmlSink& out);
+    template <typename Sink>
+    void MailMergeFragment(const MailMerge& activity, Sink& out);
+    template <typename Sink>
+    void SaveAsFragment(const SaveAs& activity, Sink& out);
+    template <typename Sink>
+    void PrintOutFragment(const PrintOut& activity, Sink& out);
+    template <typename Sink>
+    void SendMailFragment(const SendMail& activity, Sink& out);
+    template <typename Sink>
+    void SendFaxFragment(const SendFax& activity, Sink& out);
+    template <typename Sink>
+    void AddRecordFragment(const AddRecord& activity, Sink& out);
+    template <typename Sink>
+    void ConvertFragment(const Convert& activity, Sink& out);
 
-    void DatasourceFragment(const Datasource& datasource, XmlSink& out);
-    void DocumentFragment(const Document& document, XmlSink& out);
-    void DatabaseFragment(const Database& database, XmlSink& out);
-    void GroupFragment(const Group& group, XmlSink& out);
-    void FieldValueFragment(const FieldValue& fieldValue, XmlSink& out);
+    template <typename Sink>
+    void DatasourceFragment(const Datasource& datasource, Sink& out);
+    template <typename Sink>
+    void DocumentFragment(const Document& document, Sink& out);
+    template <typename Sink>
+    void DatabaseFragment(const Database& database, Sink& out);
+    template <typename Sink>
+    void GroupFragment(const Group& group, Sink& out);
+    template <typename Sink>
+    void FieldValueFragment(const FieldValue& fieldValue, Sink& out);
+
+    // The file's group of a process's group name: the last one found is
+    // kept, as processes often name the same.
+    std::shared_ptr<Group> KnownGroup(const std::shared_ptr<Groups>& groups, const std::string& name);
+
+    std::string quoted_;  // a field value with its quotes as entities, reused
+    struct FoundGroup {
+        std::shared_ptr<Groups> groups;
+        std::string name;
+        std::uint64_t revision = 0;
+        std::shared_ptr<Group> found;
+    } lastGroup_;
 };
 
 // The serialised Process element alone, as the designer copies a process.
