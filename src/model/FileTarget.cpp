@@ -6,18 +6,14 @@ namespace flowloom {
 
 void FileTarget::SetFolder(const std::string& folder) {
     folder_ = vb::RTrim(folder);
-    rawFolder_ = folder;
+    folderTrailingBlanks_ = static_cast<std::uint32_t>(folder.size() - folder_.size());
 }
 
-void FileTarget::SetFile(const std::string& file) {
-    file_ = file;
-    rawFile_ = file;
-}
+void FileTarget::SetFile(const std::string& file) { file_ = file; }
 
 void FileTarget::SetFullName(const TaggedValue& fullName) {
     if (fullName.IsObject()) return;
     fullName_ = fullName;
-    rawFullName_ = fullName.Text();
 }
 
 std::string FileTarget::JoinedFullName() const {

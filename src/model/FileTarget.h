@@ -3,6 +3,7 @@
 #include "app/Tracked.h"
 #include "app/TaggedValue.h"
 
+#include <cstdint>
 #include <string>
 
 namespace flowloom {
@@ -10,6 +11,8 @@ namespace flowloom {
 // Where an activity writes or finds its file: Folder, File and FullName,
 // each with the text as it was set (the raw value), which is what the file
 // keeps; the full name read derives from folder and file when none is set.
+// The raw values are kept as what they add (a folder's trailing blanks), not
+// as second copies: a large file has thousands of these.
 class FileTarget {
 public:
     // Trailing blanks removed; the raw folder keeps the text as given.
@@ -25,20 +28,15 @@ public:
     // The stored full name, else folder and file joined with one backslash.
     std::string JoinedFullName() const;
 
-    const std::string& RawFolder() const noexcept { return rawFolder_; }
-    const std::string& RawFile() const noexcept { return rawFile_; }
-    const std::string& RawFullName() const noexcept { return rawFullName_; }
-    void SetRawFolder(std::string value) { rawFolder_ = std::move(value); }
-    void SetRawFile(std::string value) { rawFile_ = std::move(value); }
-    void SetRawFullName(std::string value) { rawFullName_ = std::move(value); }
+    std::string RawFolder() const { return folder_ + std::string(folderTrailingBlanks_, ' '); }
+    const std::string& RawFile() const noexcept { return file_; }
+    std::string RawFullName() const { return fullName_.Text(); }
 
 private:
     TrackedString folder_;
     TrackedString file_;
     TrackedObject<TaggedValue> fullName_;
-    TrackedString rawFolder_;
-    TrackedString rawFile_;
-    TrackedString rawFullName_;
+    Tracked<std::uint32_t> folderTrailingBlanks_ = 0;  // what RTrim took from the folder as set
 };
 
 // The overwrite mode of a target file (0 "Yes", 1 "Confirm", 2 "No"), with

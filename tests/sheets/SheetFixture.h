@@ -116,10 +116,10 @@ protected:
     // The process of the test as the file would give it; the activity at
     // `selected` (1-based) is the selected one.
     void UseProcess(const std::string& xml, std::int32_t selected = 0) {
-        pugi::xml_document document;
-        ASSERT_TRUE(document.load_string(xml.c_str()));
+        XmlElements element;
+        ASSERT_TRUE(element.Read(xml));
         host.process = Process::Create();
-        host.process->LoadElement(document.first_child(), host.processes);
+        host.process->LoadElement(element.Root(), host.processes);
         if (selected > 0) host.activity = host.process->Activities()->Item(selected);
     }
     grid::Properties& Build(int kind) {
