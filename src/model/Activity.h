@@ -6,7 +6,6 @@
 #include "app/XmlElements.h"
 
 #include <memory>
-#include <optional>
 #include <string>
 
 namespace flowloom {
@@ -44,8 +43,8 @@ public:
     virtual void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) = 0;
 
     // The name of the document this activity produces, for the activities
-    // that have one; nullopt for the others.
-    virtual std::optional<std::string> ProducedDocumentName() const { return std::nullopt; }
+    // that have one; null for the others.
+    virtual const std::string* ProducedDocumentName() const { return nullptr; }
 
 protected:
     Activity() = default;

@@ -41,7 +41,7 @@ public:
     void SetOutputDocumentName(const std::string& name);
 
     void Dispose() override;
-    std::optional<std::string> ProducedDocumentName() const override { return outputDocumentName_; }
+    const std::string* ProducedDocumentName() const override { return &outputDocumentName_; }
 
 protected:
     // `inputError`: the number raised when the input does not resolve (0: none);

@@ -58,7 +58,7 @@ public:
 
     void Dispose() override;
     void LoadElement(const XmlElementView& node, const std::shared_ptr<Process>& process) override;
-    std::optional<std::string> ProducedDocumentName() const override { return outputDocumentName_; }
+    const std::string* ProducedDocumentName() const override { return &outputDocumentName_; }
 
 private:
     std::unique_ptr<std::vector<std::string>> pictures_;

@@ -31,7 +31,7 @@ std::pair<std::int32_t, std::shared_ptr<Activity>> Process::ActivityForDocument(
     if (name.empty() || !activities_) return {dockind::Other, nullptr};
     for (const auto& activity : *activities_) {
         try {
-            std::optional<std::string> produced = activity->ProducedDocumentName();
+            const std::string* produced = activity->ProducedDocumentName();
             if (!produced || produced->empty() || !NameIs(*produced, name)) continue;
             return {KindOf(*activity, wide), activity};
         } catch (...) {

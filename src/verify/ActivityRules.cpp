@@ -30,7 +30,10 @@ std::string InputDocumentNameOf(const Activity& activity) {
     });
 }
 
-std::string OutputDocumentNameOf(const Activity& activity) { return activity.ProducedDocumentName().value_or(""); }
+std::string OutputDocumentNameOf(const Activity& activity) {
+    const std::string* name = activity.ProducedDocumentName();
+    return name ? *name : std::string();
+}
 
 std::string MergeLabel(int ordinal) { return "MailMerge(" + std::to_string(ordinal) + ")"; }
 

@@ -108,7 +108,7 @@ TEST_F(UnsavedChanges, TheComparisonFollowsEqualsNoCaseWhereverTheTextsDiffer) {
     middle[middle.size() / 2] = '\x01';
     EXPECT_FALSE(processes->XmlEqualsNoCase(middle));
 
-    // Case folding beyond ASCII, where the lengths differ: the full comparison decides.
+    // Case folding beyond ASCII, where the lengths differ: decided where the texts differ.
     processes->Item(CollectionPosition{1})->SetName("Straße Ärger");
     const std::string withUnicode = processes->XML();
     std::string folded = withUnicode;
