@@ -89,6 +89,11 @@ TEST_F(Activity_, SaveAsJoinsFolderAndFileWithOneBackslash) {
     EXPECT_EQ(saveAs.Target().RawFolder(), "C:\\TEMP  ");
     saveAs.SetFolder("C:\\TEMP\\");
     EXPECT_EQ(saveAs.FullName(), "C:\\TEMP\\a.doc");
+    EXPECT_EQ(saveAs.Target().RawFolder(), "C:\\TEMP\\");
+    saveAs.SetFolder("   ");
+    EXPECT_EQ(saveAs.Target().Folder(), "");
+    EXPECT_EQ(saveAs.Target().RawFolder(), "   ");
+    saveAs.SetFolder("C:\\TEMP\\");
     saveAs.SetFullName(TaggedValue("D:\\x.doc"));
     EXPECT_EQ(saveAs.FullName(), "D:\\x.doc");
 }
