@@ -1,5 +1,7 @@
 #include "app/XmlElements.h"
 
+#include "app/XmlChars.h"
+
 #include <charconv>
 #include <cstring>
 
@@ -64,24 +66,6 @@ bool StartsWith(std::string_view text, std::size_t pos, std::string_view prefix)
     return text.substr(pos, prefix.size()) == prefix;
 }
 
-void AppendUtf8(std::string& out, std::uint32_t c) {
-    if (c < 0x80) {
-        out += static_cast<char>(c);
-    } else if (c < 0x800) {
-        out += static_cast<char>(0xC0 | (c >> 6));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else if (c < 0x10000) {
-        out += static_cast<char>(0xE0 | (c >> 12));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (c >> 18));
-        out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (c & 0x3F));
-    }
-}
-
 // The character of a reference's name ("amp", "#38", "#x26"); false for none.
 bool AppendReference(std::string& out, std::string_view name) {
     if (name == "amp") out += '&';
@@ -96,7 +80,7 @@ bool AppendReference(std::string& out, std::string_view name) {
         const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), code, hex ? 16 : 10);
         if (digits.empty() || error != std::errc() || end != digits.data() + digits.size() || code > 0x10FFFF)
             return false;
-        AppendUtf8(out, code);
+        xmlchars::AppendUtf8(out, code);
     } else {
         return false;
     }
