@@ -65,8 +65,8 @@ TEST(XmlElements, GiveTheTreeAParserGives) {
     // Long values are scanned in blocks: a reference, a line end or the
     // other quote at every place of the first blocks, and UTF-8 around them.
     for (std::size_t at = 0; at < 40; ++at)
-        for (const char* special : {"&amp;", "\t", "\r\n", "\"", "\xc3\xa9"}) {
-            const std::string value = std::string(at, 'v') + special + std::string(40 - at, 'w');
+        for (const char* marker : {"&amp;", "\t", "\r\n", "\"", "\xc3\xa9"}) {
+            const std::string value = std::string(at, 'v') + marker + std::string(40 - at, 'w');
             ExpectAsParser("<A v='" + value + "' next='n'/>");
         }
 }
