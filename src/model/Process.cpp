@@ -134,8 +134,8 @@ void Process::LoadElement(const XmlElementView& node, const std::shared_ptr<Proc
     }
     if (XmlElementView child = node.child("Activities")) {
         // Every activity of a process's collection knows the process, also
-        // those added after loading.
-        activities_ = std::make_shared<flowloom::Activities>();
+        // those added after loading. An empty collection is as good as a new one.
+        if (!activities_ || activities_->Count() > 0) activities_ = std::make_shared<flowloom::Activities>();
         activities_->SetProcess(self);
         activities_->LoadElement(child, self);
     }
