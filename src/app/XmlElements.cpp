@@ -89,13 +89,6 @@ bool AppendReference(std::string& out, std::string_view name) {
 
 }  // namespace
 
-std::string_view XmlElementAttribute::name() const noexcept { return at_ ? at_->name : std::string_view(); }
-std::string_view XmlElementAttribute::value() const noexcept { return at_ ? at_->value : std::string_view(); }
-
-std::string_view XmlElementView::name() const noexcept {
-    return elements_ ? elements_->elements_[at_].name : std::string_view();
-}
-
 XmlElementView XmlElementView::child(std::string_view name) const noexcept {
     for (const XmlElementView element : children(name)) return element;
     return {};
@@ -116,22 +109,6 @@ XmlElementView::Attributes XmlElementView::attributes() const noexcept {
     const XmlElements::Element& element = elements_->elements_[at_];
     const XmlElementAttribute::Stored* first = &elements_->attributes_[element.firstAttribute];
     return {AttributeIterator(first), AttributeIterator(first + element.attributeCount)};
-}
-
-XmlElementView::ChildIterator& XmlElementView::ChildIterator::operator++() noexcept {
-    at_ = elements_->elements_[at_].nextSibling;
-    Skip();
-    return *this;
-}
-
-void XmlElementView::ChildIterator::Skip() noexcept {
-    if (name_.empty()) return;
-    while (at_ != XmlElements::kNone && elements_->elements_[at_].name != name_) at_ = elements_->elements_[at_].nextSibling;
-}
-
-XmlElementView::AttributeIterator& XmlElementView::AttributeIterator::operator++() noexcept {
-    ++at_;
-    return *this;
 }
 
 XmlElementView XmlElements::Root() const noexcept {

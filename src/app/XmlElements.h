@@ -141,4 +141,28 @@ struct XmlElementAttribute::Stored {
     std::string_view value;
 };
 
+// The walk of a tree is the readers' inner loop: its steps are inline.
+inline std::string_view XmlElementAttribute::name() const noexcept { return at_ ? at_->name : std::string_view(); }
+inline std::string_view XmlElementAttribute::value() const noexcept { return at_ ? at_->value : std::string_view(); }
+
+inline std::string_view XmlElementView::name() const noexcept {
+    return elements_ ? elements_->elements_[at_].name : std::string_view();
+}
+
+inline XmlElementView::ChildIterator& XmlElementView::ChildIterator::operator++() noexcept {
+    at_ = elements_->elements_[at_].nextSibling;
+    Skip();
+    return *this;
+}
+
+inline void XmlElementView::ChildIterator::Skip() noexcept {
+    if (name_.empty()) return;
+    while (at_ != XmlElements::kNone && elements_->elements_[at_].name != name_) at_ = elements_->elements_[at_].nextSibling;
+}
+
+inline XmlElementView::AttributeIterator& XmlElementView::AttributeIterator::operator++() noexcept {
+    ++at_;
+    return *this;
+}
+
 }  // namespace flowloom
