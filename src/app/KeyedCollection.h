@@ -5,6 +5,7 @@
 #include "app/Tracked.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -16,6 +17,33 @@ namespace flowloom {
 
 // A place in a keyed collection: nothing, a 1-based index, or a key.
 using CollectionPosition = std::variant<std::monostate, std::int32_t, std::string>;
+
+// A key folded for comparison without regard to case. The keys of a file
+// are mostly short (names, and activity keys of some twenty characters):
+// an ASCII key of up to 23 bytes is held inline, so that a large file's
+// many collections make no allocation for their keys.
+class FoldedKey {
+public:
+    FoldedKey() = default;
+    explicit FoldedKey(std::string_view key);
+
+    std::string_view View() const noexcept { return long_ ? std::string_view(*long_) : std::string_view(short_, size_); }
+    bool Empty() const noexcept { return View().empty(); }
+    bool operator==(const FoldedKey& other) const noexcept { return View() == other.View(); }
+
+private:
+    static constexpr std::size_t kShort = 23;
+    char short_[kShort] = {};
+    std::uint8_t size_ = 0;
+    std::unique_ptr<std::string> long_;  // beyond ASCII or longer
+};
+
+// Hashes and compares folded keys as views, so that an index is searched
+// without making a string.
+struct FoldedKeyHash {
+    using is_transparent = void;
+    std::size_t operator()(std::string_view key) const noexcept { return std::hash<std::string_view>()(key); }
+};
 
 // The ordered collection of the host language: items in insertion order, each
 // with an optional string key; keys are compared without regard to case.
@@ -32,7 +60,7 @@ public:
 
     struct Entry {
         Ptr item;
-        std::string folded;  // the key folded for comparison; empty for an item without a key
+        FoldedKey folded;  // empty for an item without a key
     };
 
 
@@ -45,12 +73,12 @@ public:
     // As Add, but a key that exists gives false instead of error 457.
     bool TryAdd(Ptr item, std::string_view key = {}, const CollectionPosition& before = {},
                 const CollectionPosition& after = {}) {
-        std::string folded = key.empty() ? std::string() : FoldCase(key);
-        if (!folded.empty() && FindItem(folded)) return false;
+        FoldedKey folded = key.empty() ? FoldedKey() : FoldedKey(key);
+        if (!folded.Empty() && FindItem(folded.View())) return false;
         std::size_t at = entries_.size();
         if (!std::holds_alternative<std::monostate>(before)) at = ResolvePosition(before);
         else if (!std::holds_alternative<std::monostate>(after)) at = ResolvePosition(after) + 1;
-        if (index_ && !folded.empty()) index_->emplace(folded, item);
+        if (index_ && !folded.Empty()) index_->emplace(folded.View(), item);
         entries_.insert(entries_.begin() + static_cast<std::ptrdiff_t>(at), Entry{std::move(item), std::move(folded)});
         ModelRevision::Bump();
         return true;
@@ -58,7 +86,7 @@ public:
 
     const Ptr& Item(std::int32_t index) const { return entries_[CheckedIndex(index)].item; }
     const Ptr& Item(std::string_view key) const {
-        const Ptr* item = key.empty() ? nullptr : FindItem(FoldCase(key));
+        const Ptr* item = key.empty() ? nullptr : FindItem(FoldedKey(key).View());
         if (!item) RaiseStandardError(vberr::InvalidProcedureCall);
         return *item;
     }
@@ -71,10 +99,10 @@ public:
     }
 
     // KeyExists: whether an item is stored under this key.
-    bool Contains(std::string_view key) const { return !key.empty() && FindItem(FoldCase(key)); }
+    bool Contains(std::string_view key) const { return !key.empty() && FindItem(FoldedKey(key).View()); }
     // The item under this key, or nothing; no error.
     Ptr Find(std::string_view key) const {
-        const Ptr* item = key.empty() ? nullptr : FindItem(FoldCase(key));
+        const Ptr* item = key.empty() ? nullptr : FindItem(FoldedKey(key).View());
         return item ? *item : nullptr;
     }
 
@@ -147,17 +175,17 @@ private:
     static constexpr std::size_t kIndexFrom = 32;  // entries before a hash index pays off
 
     // The item under a folded key, or null.
-    const Ptr* FindItem(const std::string& folded) const {
+    const Ptr* FindItem(std::string_view folded) const {
         if (entries_.size() < kIndexFrom && !index_) {
             for (const Entry& e : entries_)
-                if (e.folded == folded) return &e.item;
+                if (e.folded.View() == folded) return &e.item;
             return nullptr;
         }
         if (!index_) {
-            index_ = std::make_unique<std::unordered_map<std::string, Ptr>>();
+            index_ = std::make_unique<Index>();
             index_->reserve(entries_.size());
             for (const Entry& e : entries_)
-                if (!e.folded.empty()) index_->emplace(e.folded, e.item);
+                if (!e.folded.Empty()) index_->emplace(e.folded.View(), e.item);
         }
         auto it = index_->find(folded);
         return it == index_->end() ? nullptr : &it->second;
@@ -165,11 +193,11 @@ private:
     // The position of the item under a folded key: the index names the
     // item, its place is looked up among the entries (only removes and
     // positional inserts ask, which move entries anyway).
-    std::size_t FindFolded(const std::string& folded) const {
+    std::size_t FindFolded(std::string_view folded) const {
         const Ptr* item = FindItem(folded);
         if (!item) return kNone;
         for (std::size_t i = 0; i < entries_.size(); ++i)
-            if (entries_[i].item == *item && entries_[i].folded == folded) return i;
+            if (entries_[i].item == *item && entries_[i].folded.View() == folded) return i;
         return kNone;
     }
     std::size_t CheckedIndex(std::int32_t index) const {
@@ -177,14 +205,14 @@ private:
         return static_cast<std::size_t>(index - 1);
     }
     std::size_t IndexOfKey(std::string_view key) const {
-        const std::size_t i = key.empty() ? kNone : FindFolded(FoldCase(key));
+        const std::size_t i = key.empty() ? kNone : FindFolded(FoldedKey(key).View());
         if (i == kNone) RaiseStandardError(vberr::InvalidProcedureCall);
         return i;
     }
     std::size_t FindPosition(const CollectionPosition& position) const {
         if (auto* i = std::get_if<std::int32_t>(&position))
             return *i >= 1 && static_cast<std::size_t>(*i) <= entries_.size() ? static_cast<std::size_t>(*i - 1) : kNone;
-        if (auto* k = std::get_if<std::string>(&position)) return k->empty() ? kNone : FindFolded(FoldCase(*k));
+        if (auto* k = std::get_if<std::string>(&position)) return k->empty() ? kNone : FindFolded(FoldedKey(*k).View());
         return kNone;
     }
     // An index out of range is error 9; an unknown key or no position at all error 5.
@@ -195,15 +223,16 @@ private:
                                                                           : vberr::InvalidProcedureCall);
     }
     void EraseAt(std::size_t i) {
-        if (index_ && !entries_[i].folded.empty()) index_->erase(entries_[i].folded);
+        if (index_ && !entries_[i].folded.Empty()) index_->erase(std::string(entries_[i].folded.View()));
         entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(i));
         ModelRevision::Bump();
     }
 
+    using Index = std::unordered_map<std::string, Ptr, FoldedKeyHash, std::equal_to<>>;
     std::vector<Entry> entries_;
     // Folded key to item, only for large collections: it holds no
     // positions, so inserts and removes anywhere keep it valid.
-    mutable std::unique_ptr<std::unordered_map<std::string, Ptr>> index_;
+    mutable std::unique_ptr<Index> index_;
 };
 
 // KeyExists of the shared helpers: true when the key can be looked up.

@@ -37,6 +37,27 @@ TEST(KeyedCollection, KeysIgnoreCaseInAnyScriptAndDuplicateIs457) {
     EXPECT_EQ(c.Count(), 2);
 }
 
+TEST(KeyedCollection, ShortLongAndFoldingKeysMatchAlike) {
+    // Keys held inline (up to 23 ASCII bytes), longer ones, and keys beyond
+    // ASCII, whose folding may make ASCII of them (the Kelvin sign is a "k").
+    const std::string at23(23, 'K');
+    const std::string at24(24, 'K');
+    KeyedCollection<Item> c;
+    c.Add(Make("23"), at23);
+    c.Add(Make("24"), at24);
+    c.Add(Make("kelvin"), "\u212Aey");
+    c.Add(Make("long"), "A key that is certainly longer than the inline room");
+    EXPECT_EQ(c.Item(std::string(23, 'k'))->name, "23");
+    EXPECT_EQ(c.Item(std::string(24, 'k'))->name, "24");
+    EXPECT_FALSE(c.Contains(std::string(22, 'k')));
+    EXPECT_EQ(c.Item("KEY")->name, "kelvin");
+    EXPECT_EQ(ErrorNumberOf([&] { c.Add(Make("dup"), "key"); }), 457);
+    EXPECT_EQ(c.Item("\u212A" + std::string(22, 'K'))->name, "23");
+    c.Remove("a KEY that is certainly longer than the inline room");
+    EXPECT_FALSE(c.Contains("A KEY THAT IS CERTAINLY LONGER THAN THE INLINE ROOM"));
+    EXPECT_EQ(c.Count(), 3);
+}
+
 TEST(KeyedCollection, PositionsBeforeAndAfterWithBeforeWinning) {
     KeyedCollection<Item> c;
     c.Add(Make("1"), "one");
