@@ -25,8 +25,8 @@ struct PlainBytes {
     bool value[256] = {};
     constexpr PlainBytes() {
         for (int c = 0x20; c < 0x80; ++c) text[c] = value[c] = c != '&' && c != '<' && c != '>';
-        value['"'] = false;
-        text['\t'] = text['\n'] = true;
+        value[static_cast<unsigned char>('"')] = false;
+        text[static_cast<unsigned char>('\t')] = text[static_cast<unsigned char>('\n')] = true;
     }
 };
 constexpr PlainBytes kPlain;
