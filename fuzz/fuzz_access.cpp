@@ -28,17 +28,17 @@ std::size_t PageSize(const std::uint8_t* data, std::size_t size) {
 
 // Mutates a stretch of one table-definition or data page in place; false
 // when the file has no such page among the few tried.
-bool MutateOnePage(std::uint8_t* data, std::size_t size, unsigned int seed) {
+bool MutateOnePage(std::uint8_t* data, std::size_t size, unsigned int draw) {
     const std::size_t page = PageSize(data, size);
     const std::size_t pages = size / page;
     if (pages < 2) return false;
     for (std::size_t tries = 0; tries < 8; ++tries) {
-        const std::size_t chosen = 1 + (seed / 2 + tries * kStride) % (pages - 1);
+        const std::size_t chosen = 1 + (draw / 2 + tries * kStride) % (pages - 1);
         std::uint8_t* at = data + chosen * page;
         const bool parsedPage = at[0] == 1 || at[0] == 2;
         if (!parsedPage) continue;
-        const std::size_t length = 1 + (seed >> 4) % page;
-        const std::size_t offset = (seed >> 2) % (page - length + 1);
+        const std::size_t length = 1 + (draw >> 4) % page;
+        const std::size_t offset = (draw >> 2) % (page - length + 1);
         LLVMFuzzerMutate(at + offset, length, length);
         return true;
     }
@@ -48,12 +48,12 @@ bool MutateOnePage(std::uint8_t* data, std::size_t size, unsigned int seed) {
 }  // namespace
 
 extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t size, std::size_t maxSize,
-                                               unsigned int seed) {
-    const bool intoOnePage = (seed & 1u) == 0;
-    if (intoOnePage && MutateOnePage(data, size, seed)) return size;
+                                               unsigned int draw) {
+    const bool intoOnePage = (draw & 1u) == 0;
+    if (intoOnePage && MutateOnePage(data, size, draw)) return size;
     size = LLVMFuzzerMutate(data, size, maxSize);
     // Now and then a file of any length; else whole pages of at least three.
-    const bool anyLength = seed % 10 == 1;
+    const bool anyLength = draw % 10 == 1;
     if (anyLength || size <= kVersionByte) return size;
     const std::size_t wanted = PageSize(data, size);
     return size >= 3 * wanted ? size - size % wanted : size;
