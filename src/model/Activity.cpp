@@ -16,17 +16,18 @@ float NextRandomFraction() {
     return value < 1.0f ? value : 0.0f;
 }
 
-const std::string& Activity::Key() const {
-    if (key_.empty()) {
-        // Every activity of a file makes one: built in place, in one allocation.
-        const std::string_view type = ActivityTypeName(Kind());
-        char digits[16];
-        const auto number = vb::CLng(static_cast<double>(NextRandomFraction()) * 2147483648.0);
-        char* end = std::to_chars(digits, digits + sizeof digits, number).ptr;
-        key_.reserve(type.size() + static_cast<std::size_t>(end - digits));
-        key_.append(type).append(digits, static_cast<std::size_t>(end - digits));
+std::string Activity::Key() const {
+    if (!keyDrawn_) {
+        keyNumber_ = vb::CLng(static_cast<double>(NextRandomFraction()) * 2147483648.0);
+        keyDrawn_ = true;
     }
-    return key_;
+    const std::string_view type = ActivityTypeName(Kind());
+    char digits[16];
+    char* end = std::to_chars(digits, digits + sizeof digits, keyNumber_).ptr;
+    std::string key;
+    key.reserve(type.size() + static_cast<std::size_t>(end - digits));
+    key.append(type).append(digits, static_cast<std::size_t>(end - digits));
+    return key;
 }
 
 }  // namespace flowloom

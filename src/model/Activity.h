@@ -1,10 +1,12 @@
 #pragma once
 
+#include "app/SparseMembers.h"
 #include "app/Tracked.h"
 #include "model/ActivityKind.h"
 
 #include "app/XmlElements.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -24,8 +26,7 @@ public:
     std::string ActivityType() const { return std::string(ActivityTypeName(Kind())); }
 
     // Made once from the type name and a random number, then kept; never saved.
-    const std::string& Key() const;
-    void SetKey(std::string key) { key_ = std::move(key); }
+    std::string Key() const;
 
     std::shared_ptr<Process> ParentProcess() const { return parent_.lock(); }
     void SetParentProcess(const std::shared_ptr<Process>& process) {
@@ -52,8 +53,11 @@ protected:
     Activity& operator=(const Activity&) = default;
 
 private:
-    mutable std::string key_;  // made on first read
-    TrackedString description_;
+    // The key's number, drawn on first read; the key itself is spelled out
+    // when asked for, since the collection keeps it already.
+    mutable std::int32_t keyNumber_ = 0;
+    mutable bool keyDrawn_ = false;
+    SparseString description_;
     std::weak_ptr<Process> parent_;
 };
 

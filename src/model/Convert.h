@@ -44,12 +44,12 @@ public:
 
 private:
     Tracked<bool> showDocument_ = false;
-    TrackedString ghostscriptExecutable_;
+    SparseString ghostscriptExecutable_;
     OverwriteMode overwrite_{1};
     Tracked<std::int32_t> outputFileFormat_ = 0;
     Tracked<std::int32_t> pdfConvertingMethod_ = 0;
     mutable Tracked<std::int32_t> postscript2PDFConverter_ = 0;  // chosen on first read
-    TrackedString postscriptPrinter_;
+    SparseString postscriptPrinter_;
 };
 
 // Whether Adobe's distiller can be created here; never on this platform.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/SparseMembers.h"
 #include "app/Tracked.h"
 #include "app/XmlElements.h"
 
@@ -20,8 +21,8 @@ public:
     TrackedString Database;    // name of a Database
     TrackedString ObjectName;
     Tracked<std::int32_t> Records = 0;  // 0 current, 1 all, 2 selected
-    TrackedString SubFormFullName;  // saved as SubformFullName
-    TrackedString SaveXmlToFolder;
+    SparseString SubFormFullName;  // saved as SubformFullName
+    SparseString SaveXmlToFolder;
 
     // Falls back on ObjectName on first read and keeps it.
     const std::string& name() const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/SparseMembers.h"
 #include "app/Tracked.h"
 #include "app/TaggedValue.h"
 
@@ -16,12 +17,12 @@ namespace flowloom {
 class Document {
 public:
     std::string name;  // renamed only through the collection (see RenameOutputDocument), which counts the edit
-    std::string Template;
-    std::string Contents;
+    SparseString Template;
+    SparseString Contents;
     bool Show = false;
 
-    const TaggedValue& Object() const noexcept { return object_; }
-    void SetObject(TaggedValue value) { object_ = std::move(value); }
+    const TaggedValue& Object() const noexcept;
+    void SetObject(TaggedValue value);
     // Created on first read.
     std::vector<std::string>& Pictures();
 
@@ -29,7 +30,7 @@ public:
     void Dispose();
 
 private:
-    TaggedValue object_;
+    LazyPart<TaggedValue> object_;  // held during a run only
     std::unique_ptr<std::vector<std::string>> pictures_;
 };
 

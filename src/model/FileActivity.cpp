@@ -7,7 +7,22 @@
 namespace flowloom {
 
 std::shared_ptr<Document> FileActivity::InputDocument() {
-    return ResolveInputDocument(inputDocument_, inputDocumentName_, ParentProcess(), inputError_);
+    const HeldDocuments* held = held_.Find();
+    std::shared_ptr<Document> input = held ? held->input : nullptr;
+    const bool wasHeld = input != nullptr;
+    auto document = ResolveInputDocument(input, inputDocumentName_, ParentProcess(), inputError_);
+    if (!wasHeld && input) held_.Get().input = std::move(input);
+    return document;
+}
+
+void FileActivity::SetInputDocument(std::shared_ptr<Document> document) {
+    if (!document && !held_.Find()) return;
+    held_.Get().input = std::move(document);
+}
+
+std::shared_ptr<Document> FileActivity::OutputDocument() const {
+    const HeldDocuments* held = held_.Find();
+    return held ? held->output : nullptr;
 }
 
 void FileActivity::SetOutputDocumentName(const std::string& name) {
@@ -16,8 +31,7 @@ void FileActivity::SetOutputDocumentName(const std::string& name) {
 }
 
 void FileActivity::Dispose() {
-    inputDocument_.reset();
-    outputDocument_.reset();
+    held_.Reset();
     Activity::Dispose();
 }
 

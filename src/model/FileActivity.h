@@ -32,8 +32,8 @@ public:
     // (kept once found); raises the activity's error when none resolves,
     // if it has one.
     std::shared_ptr<Document> InputDocument();
-    void SetInputDocument(std::shared_ptr<Document> document) { inputDocument_ = std::move(document); }
-    std::shared_ptr<Document> OutputDocument() const { return outputDocument_; }
+    void SetInputDocument(std::shared_ptr<Document> document);
+    std::shared_ptr<Document> OutputDocument() const;
     const std::string& InputDocumentName() const noexcept { return inputDocumentName_; }
     void SetInputDocumentName(std::string value) { inputDocumentName_ = std::move(value); }
     const std::string& OutputDocumentName() const noexcept { return outputDocumentName_; }
@@ -59,8 +59,12 @@ private:
     std::int32_t inputError_;
     bool producesDocuments_;
     FileTarget target_;
-    std::shared_ptr<Document> inputDocument_;
-    std::shared_ptr<Document> outputDocument_;
+    // The documents of a run; the designer never holds any.
+    struct HeldDocuments {
+        std::shared_ptr<Document> input;
+        std::shared_ptr<Document> output;
+    };
+    LazyPart<HeldDocuments> held_;
     TrackedString inputDocumentName_;
     TrackedString outputDocumentName_;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/SparseMembers.h"
 #include "app/Tracked.h"
 #include "app/TaggedValue.h"
 
@@ -23,19 +24,19 @@ public:
 
     const std::string& Folder() const noexcept { return folder_; }
     const std::string& File() const noexcept { return file_; }
-    const TaggedValue& StoredFullName() const noexcept { return fullName_; }
-    bool HasFullName() const { return !fullName_.IsEmpty() && !fullName_.Text().empty(); }
+    const TaggedValue& StoredFullName() const noexcept;
+    bool HasFullName() const;
     // The stored full name, else folder and file joined with one backslash.
     std::string JoinedFullName() const;
 
     std::string RawFolder() const { return folder_ + std::string(folderTrailingBlanks_, ' '); }
     const std::string& RawFile() const noexcept { return file_; }
-    std::string RawFullName() const { return fullName_.Text(); }
+    std::string RawFullName() const { return StoredFullName().Text(); }
 
 private:
     TrackedString folder_;
     TrackedString file_;
-    TrackedObject<TaggedValue> fullName_;
+    LazyPart<TrackedObject<TaggedValue>> fullName_;  // seldom given: the folder and file are
     Tracked<std::uint32_t> folderTrailingBlanks_ = 0;  // what RTrim took from the folder as set
 };
 

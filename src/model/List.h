@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/SparseMembers.h"
 #include "app/Tracked.h"
 #include <memory>
 #include <string>
@@ -23,7 +24,7 @@ public:
     const std::string& ListSeparator() const noexcept { return separator_; }
     void SetListSeparator(std::string separator) { separator_ = std::move(separator); }
 
-    const std::vector<std::string>& Values() const noexcept { return values_; }
+    const std::vector<std::string>& Values() const noexcept;
     // A non-empty array clears the text and the datasource.
     void SetValues(std::vector<std::string> values);
 
@@ -37,9 +38,9 @@ public:
 private:
     TrackedString text_;
     TrackedString separator_ = ";";
-    std::vector<std::string> values_;
+    LazyPart<std::vector<std::string>> values_;  // an array is seldom given
     std::shared_ptr<flowloom::Datasource> datasource_;
-    TrackedString fieldName_;
+    SparseString fieldName_;
 };
 
 }  // namespace flowloom

@@ -9,13 +9,21 @@
 
 namespace flowloom {
 
-std::vector<std::string>& MailMerge::Pictures() {
-    if (!pictures_) pictures_ = std::make_unique<std::vector<std::string>>();
-    return *pictures_;
+std::vector<std::string>& MailMerge::Pictures() { return held_.Get().pictures; }
+
+void MailMerge::SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) {
+    if (datasource || held_.Find()) held_.Get().datasource = std::move(datasource);
+    ModelRevision::Bump();
+}
+
+std::shared_ptr<Document> MailMerge::OutputDocument() const {
+    const Held* held = held_.Find();
+    return held ? held->outputDocument : nullptr;
 }
 
 const std::string& MailMerge::DatasourceName() const {
-    if (datasourceName_.empty() && datasource_) datasourceName_ = datasource_->name();
+    const Held* held = held_.Find();
+    if (datasourceName_.empty() && held && held->datasource) datasourceName_ = held->datasource->name();
     return datasourceName_;
 }
 
@@ -31,9 +39,7 @@ const std::string& MailMerge::InvokedApplication() const {
 
 void MailMerge::Dispose() {
     try {
-        pictures_.reset();
-        outputDocument_.reset();
-        datasource_.reset();
+        held_.Reset();
         Activity::Dispose();
     } catch (...) {
     }

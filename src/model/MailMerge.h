@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/SparseMembers.h"
 #include "app/Tracked.h"
 #include "model/Activity.h"
 
@@ -35,15 +36,12 @@ public:
 
     // Never gives an object back: code that asks goes by DatasourceName.
     std::shared_ptr<flowloom::Datasource> Datasource() const { return nullptr; }
-    void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) {
-        datasource_ = std::move(datasource);
-        ModelRevision::Bump();
-    }
+    void SetDatasource(std::shared_ptr<flowloom::Datasource> datasource);
     // Falls back on the held datasource's name.
     const std::string& DatasourceName() const;
     void SetDatasourceName(std::string value) { datasourceName_ = std::move(value); }
 
-    std::shared_ptr<Document> OutputDocument() const { return outputDocument_; }
+    std::shared_ptr<Document> OutputDocument() const;
     const std::string& OutputDocumentName() const noexcept { return outputDocumentName_; }
     // Keeps the process's documents in step with the new name.
     void SetOutputDocumentName(const std::string& name);
@@ -61,15 +59,19 @@ public:
     const std::string* ProducedDocumentName() const override { return &outputDocumentName_; }
 
 private:
-    std::unique_ptr<std::vector<std::string>> pictures_;
-    TrackedString iteration_;
-    TrackedString precededBy_;
-    TrackedString succeededBy_;
+    // What a run holds; the designer seldom sets any of it.
+    struct Held {
+        std::vector<std::string> pictures;
+        std::shared_ptr<flowloom::Datasource> datasource;
+        std::shared_ptr<Document> outputDocument;
+    };
+    LazyPart<Held> held_;
+    SparseString iteration_;
+    SparseString precededBy_;
+    SparseString succeededBy_;
     Tracked<bool> insertPagebreak_ = true;
     Tracked<std::int32_t> mailMergeType_ = 0;
-    std::shared_ptr<flowloom::Datasource> datasource_;
     mutable TrackedString datasourceName_;  // falls back on the datasource's name
-    std::shared_ptr<Document> outputDocument_;
     TrackedString outputDocumentName_;
     mutable TrackedString invokedApplication_;  // "Microsoft Word" on first read when empty
     TrackedString template_;

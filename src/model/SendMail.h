@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/SparseMembers.h"
 #include "app/Tracked.h"
 #include "app/CDictionary.h"
 #include "app/KeyedCollection.h"
@@ -32,7 +33,7 @@ public:
     std::int32_t SendMethod() const noexcept { return sendMethod_; }
     void SetSendMethod(std::int32_t value) { sendMethod_ = value; }
 
-    TrackedString SMTPServer, SendUsername, SendPassword, SMTPServerPort, From, Charset;
+    SparseString SMTPServer, SendUsername, SendPassword, SMTPServerPort, From, Charset;
 
     std::shared_ptr<List> To_() const { return to_; }
     void SetTo_(std::shared_ptr<List> list) { SetList(to_, std::move(list)); }
@@ -78,9 +79,9 @@ private:
     Tracked<std::int32_t> mailApplication_ = 0;
     Tracked<std::int32_t> sendMethod_ = 0;
     std::shared_ptr<List> to_, cc_, bcc_;
-    TrackedString recipientsTo_, recipientsCC_, recipientsBCC_;
+    SparseString recipientsTo_, recipientsCC_, recipientsBCC_;
     TrackedString subject_;
-    TrackedString body_;
+    SparseString body_;
     std::shared_ptr<flowloom::Attachments> attachments_;
 };
 

@@ -32,28 +32,46 @@ void Document::LoadElement(const XmlElementView& node) {
         if (NameIs(a, "Name")) name = a.value();
 }
 
+const TaggedValue& Document::Object() const noexcept {
+    static const TaggedValue none;
+    const TaggedValue* object = object_.Find();
+    return object ? *object : none;
+}
+
+void Document::SetObject(TaggedValue value) {
+    if (value.IsEmpty() && !object_.Find()) return;
+    object_.Get() = std::move(value);
+}
+
 void Document::Dispose() {
-    if (object_.IsObject()) object_ = TaggedValue();
+    if (Object().IsObject()) object_.Reset();
     pictures_.reset();
+}
+
+const std::vector<std::string>& List::Values() const noexcept {
+    static const std::vector<std::string> none;
+    const auto* values = values_.Find();
+    return values ? *values : none;
 }
 
 std::string List::ValueList() const {
     if (!text_.empty()) return text_;
-    return vb::Join(values_, separator_);
+    return vb::Join(Values(), separator_);
 }
 
 void List::SetValueList(std::string text) {
     text_ = std::move(text);
     if (!text_.empty()) {
-        values_.clear();
+        values_.Reset();
         datasource_.reset();
     }
 }
 
 void List::SetValues(std::vector<std::string> values) {
-    values_ = std::move(values);
+    if (values.empty()) values_.Reset();
+    else values_.Get() = std::move(values);
     ModelRevision::Bump();
-    if (!values_.empty()) {
+    if (!Values().empty()) {
         text_.clear();
         datasource_.reset();
     }
@@ -64,7 +82,7 @@ void List::SetDatasource(std::shared_ptr<flowloom::Datasource> datasource) {
     ModelRevision::Bump();
     if (datasource_) {
         text_.clear();
-        values_.clear();
+        values_.Reset();
     } else {
         fieldName_.clear();
     }

@@ -38,7 +38,7 @@ constexpr int kSendMailSheet = 14;
 constexpr int kDeleteKey = 46;
 
 // The text members of rows 12 to 17, in row order.
-TrackedString SendMail::* const kServerMembers[] = {&SendMail::SMTPServer,   &SendMail::SMTPServerPort,
+SparseString SendMail::* const kServerMembers[] = {&SendMail::SMTPServer,   &SendMail::SMTPServerPort,
                                                   &SendMail::SendUsername, &SendMail::SendPassword,
                                                   &SendMail::From,         &SendMail::Charset};
 
@@ -92,7 +92,7 @@ void SetSendMailPropertiesValues(SheetHost& host, grid::Properties& rows, const 
         ShowListItem(row, activity->MailApplication());
     });
     std::int32_t index = SMTPServer;
-    for (TrackedString SendMail::* member : kServerMembers)
+    for (SparseString SendMail::* member : kServerMembers)
         step([&, i = index++] { SetIfNotEmpty(rows.Item(i), (*activity).*member); });
     step([&] {
         std::vector<std::string> names;
