@@ -1,12 +1,14 @@
 // Loads arbitrary bytes as a processes file, then writes the model back and
 // loads that text once more. Loading must never crash, leak or hang; what the
 // reader takes, a conformant parser (libxml2) takes too; the loader's element
-// reader gives every child of the root as pugixml's tree has it; and what the
-// writer makes is well-formed for libxml2 and always loads.
+// reader gives every child of the root as pugixml's tree has it; the text as
+// loaded stays at hand (packed, while the loader gives the text back behind
+// it); and what the writer makes is well-formed for libxml2 and always loads.
 #include "FuzzSupport.h"
 
 #include "app/XmlDocument.h"
 #include "model/Processes.h"
+#include "support/PackedText.h"
 #include "support/Prompts.h"
 #include "testsupport/XmlReferee.h"
 
@@ -58,12 +60,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (auto fault = flowloom::test::ConformantParserFault(bytes); fault && !RefusedForItsOwnLimits(*fault))
             __builtin_trap();
     if (!ChildrenReadAsParsed(bytes)) __builtin_trap();
+    if (flowloom::PackedText::Pack(bytes).Unpack() != bytes) __builtin_trap();
 
     const auto& folder = flowloom::fuzz::WorkFolder("flowloom-fuzz");
     const auto file = folder / "processes.xml";
     flowloom::fuzz::WriteFile(file, bytes);
     auto processes = flowloom::Processes::Create();
     processes->Load(file.string());
+    if (flowloom::XmlDocument source; source.LoadXml(bytes) && processes->SourceXML() != source.XML(bytes.size()))
+        __builtin_trap();
     const std::string xml = processes->XML();
     processes->Dispose();
     if (flowloom::test::ConformantParserFault(xml)) __builtin_trap();

@@ -31,15 +31,16 @@ std::shared_ptr<flowloom::Groups> Processes::Groups() const {
 
 const std::string& Processes::SourceXML() const {
     // Made on first read: most loads never ask for it.
-    if (!sourceXmlReady_ && !loadedText_.empty()) {
+    if (!sourceXmlReady_ && loadedText_.TextSize() > 0) {
         XmlDocument document;
-        if (document.LoadXml(loadedText_)) sourceXml_ = document.XML(loadedText_.size());
+        const std::optional<std::string> text = loadedText_.Unpack();
+        if (text && document.LoadXml(*text)) sourceXml_ = document.XML(text->size());
         sourceXmlReady_ = true;
     }
     return sourceXml_;
 }
 
-bool Processes::ReadRoot(const pugi::xml_node& root, const XmlOutline& outline) {
+bool Processes::ReadRoot(const pugi::xml_node& root, const XmlOutline& outline, const TextRelease& release) {
     // A root of another name is no "Processes" node at all: reading its
     // attributes fails like a call on nothing.
     if (!root) RaiseStandardError(vberr::ObjectRequired);
@@ -53,10 +54,10 @@ bool Processes::ReadRoot(const pugi::xml_node& root, const XmlOutline& outline) 
         errorString_ = "The top level node is not 'Processes'";
         return false;
     }
-    return ReadContents(outline);
+    return ReadContents(outline, release);
 }
 
-bool Processes::ReadContents(const XmlOutline& outline) {
+bool Processes::ReadContents(const XmlOutline& outline, const TextRelease& release) {
     // One child of the root is read at a time, straight from the checked
     // text: a large file is never held as a tree besides its model.
     XmlElements elements;
@@ -70,6 +71,14 @@ bool Processes::ReadContents(const XmlOutline& outline) {
             if (child.name == name) return &child;
         return nullptr;
     };
+    // The text behind each process read is given back, but not that of the
+    // children read after the processes.
+    const XmlOutline::Child* databasesChild = first("Databases");
+    const XmlOutline::Child* optionsChild = first("Options");
+    std::size_t keepFrom = std::string_view::npos;
+    for (const XmlOutline::Child* later : {databasesChild, optionsChild})
+        if (later && release.text)
+            keepFrom = std::min(keepFrom, static_cast<std::size_t>(later->text.data() - release.text->View().data()));
     if (const auto* child = first("Groups")) {
         auto groups = std::make_shared<flowloom::Groups>();
         groups->LoadElement(read(*child));
@@ -84,13 +93,14 @@ bool Processes::ReadContents(const XmlOutline& outline) {
         auto process = Process::Create();
         process->LoadElement(read(child), self);
         Add(process);
+        release.Before(child.text.substr(child.text.size()), keepFrom);
     }
-    if (const auto* child = first("Databases")) {
+    if (const auto* child = databasesChild) {
         auto databases = std::make_shared<flowloom::Databases>();
         databases->LoadElement(read(*child));
         databases_ = databases;
     }
-    if (const auto* child = first("Options")) {
+    if (const auto* child = optionsChild) {
         // Options keep their own reader on the XML layer's tree: their
         // names are the file's, and the default options document uses it too.
         pugi::xml_document fragment;
@@ -185,8 +195,7 @@ std::shared_ptr<Database> Processes::GetDatabaseByName(const std::string& name) 
 
 void Processes::Dispose() {
     try {
-        loadedText_.clear();
-        loadedText_.shrink_to_fit();
+        loadedText_ = {};
         for (const auto& process : processes_) process->Dispose();
         processes_.Clear();
         application_.reset();

@@ -3,6 +3,10 @@
 #include "app/Tracked.h"
 #include "model/Forward.h"
 #include "app/XmlDocument.h"
+#include "support/FileText.h"
+#include "support/PackedText.h"
+
+#include <atomic>
 
 #include <cstdint>
 #include <functional>
@@ -120,10 +124,20 @@ public:
     bool Disposed() const noexcept { return disposed_; }
 
 private:
-    void CheckLoadedDocument(XmlDocument& document, const XmlOutline& outline);
-    bool ReadRoot(const pugi::xml_node& root, const XmlOutline& outline);
+    // Gives the text of a load back to the system behind its reader: up to
+    // the end of the child last read, never past what the packer has packed.
+    struct TextRelease {
+        FileText* text = nullptr;  // null: nothing is given back
+        const std::atomic<std::size_t>* packed = nullptr;
+        void Before(std::string_view rest, std::size_t keepFrom) const;
+    };
+
+    // Reads the model from a file's text, which it packs and gives back.
+    void ReadLoadedText(FileText& text);
+    void CheckLoadedDocument(XmlDocument& document, const XmlOutline& outline, const TextRelease& release);
+    bool ReadRoot(const pugi::xml_node& root, const XmlOutline& outline, const TextRelease& release);
     // The root's children, parsed and read one at a time.
-    bool ReadContents(const XmlOutline& outline);
+    bool ReadContents(const XmlOutline& outline, const TextRelease& release);
     void RewriteLoadedFile(bool replacesUnloaded);
     SaveOutcome SaveWith(const std::string& fileName, BackupRule rule);
     SaveOutcome WriteFile(const std::string& target, const std::string& text, BackupRule rule);
@@ -131,9 +145,9 @@ private:
     std::string GenerateXml(const std::function<bool(std::string_view)>& consumer = {});
 
     KeyedCollection<Process> processes_;
-    // The text of the last load: the parsed document is not kept, since a
-    // model of a large file would otherwise be held twice.
-    std::string loadedText_;
+    // The text of the last load, packed: only SourceXML reads it again, and
+    // neither it nor a parsed document is held whole besides the model.
+    PackedText loadedText_;
     std::shared_ptr<void> application_;
     std::string processesFile_;
     std::string errorString_;

@@ -5,14 +5,15 @@
 #include "model/xml/CProcessesXMLDoc.h"
 #include "model/xml/UpdateVersion.h"
 #include "support/AppPaths.h"
-#include "support/FileBytes.h"
 #include "support/FileErrors.h"
 #include "support/Prompts.h"
 #include "support/ReportError.h"
 #include "support/SafeSave.h"
 #include "support/VbStrings.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <thread>
 
 namespace flowloom {
 
@@ -64,22 +65,17 @@ void Processes::Load(const std::string& fileName, std::shared_ptr<void> applicat
         if (exists) {
             sourceXmlReady_ = false;
             sourceXml_.clear();
+            loadedText_ = {};
             // A file that exists but cannot be read ends the Load with its
             // reason: taken for one that does not parse, the version step
             // would replace it.
             std::error_code error;
-            std::optional<std::string> bytes = ReadFileBytes(processesFile_, error);
-            if (!bytes) {
+            std::optional<FileText> text = FileText::Read(processesFile_, error);
+            if (!text) {
                 complete_ = Failed;
                 RaiseCannotRead(processesFile_, error);
             }
-            loadedText_ = std::move(*bytes);
-            lastXmlSize_ = loadedText_.size();
-            XmlDocument document;
-            XmlOutline outline;
-            std::string converted;
-            document.LoadOutline(loadedText_, converted, outline);
-            CheckLoadedDocument(document, outline);
+            ReadLoadedText(*text);
         }
         // Old files are converted and written back at once; a new one is created.
         if (version_ != 1) {
@@ -105,7 +101,34 @@ void Processes::RewriteLoadedFile(bool replacesUnloaded) {
     loadRewrite_.backup = outcome.backup.string();
 }
 
-void Processes::CheckLoadedDocument(XmlDocument& document, const XmlOutline& outline) {
+void Processes::ReadLoadedText(FileText& text) {
+    const std::string_view bytes = text.View();
+    lastXmlSize_ = bytes.size();
+    std::atomic<std::size_t> packed{0};
+    // The text is packed beside the reading, which gives back what both
+    // have passed: a large file is not held whole next to its model.
+    std::jthread packer([this, bytes, &packed] {
+        try {
+            loadedText_ = PackedText::Pack(bytes, &packed);
+        } catch (...) {
+            loadedText_ = {};  // out of memory: SourceXML stays empty
+        }
+    });
+    XmlDocument document;
+    XmlOutline outline;
+    std::string converted;
+    document.LoadOutline(bytes, converted, outline);
+    // A text converted from another encoding is read from its copy.
+    CheckLoadedDocument(document, outline, TextRelease{converted.empty() ? &text : nullptr, &packed});
+}
+
+void Processes::TextRelease::Before(std::string_view rest, std::size_t keepFrom) const {
+    if (!text) return;
+    const std::size_t offset = static_cast<std::size_t>(rest.data() - text->View().data());
+    text->ReleaseBefore(std::min({offset, keepFrom, packed->load(std::memory_order_acquire)}));
+}
+
+void Processes::CheckLoadedDocument(XmlDocument& document, const XmlOutline& outline, const TextRelease& release) {
     try {
         if (!document.DocumentElement()) {
             const XmlParseError& error = document.ParseError();
@@ -117,7 +140,7 @@ void Processes::CheckLoadedDocument(XmlDocument& document, const XmlOutline& out
         // A root of another name fails in ReadRoot, as a call on nothing.
         if (std::string_view(document.DocumentElement().name()) != "Processes")
             notLoadedReason_ = "The top level node is not 'Processes'";
-        complete_ = ReadRoot(document.Native().child("Processes"), outline) ? Loaded : Failed;
+        complete_ = ReadRoot(document.Native().child("Processes"), outline, release) ? Loaded : Failed;
     } catch (...) {
         if (notLoadedReason_.empty()) notLoadedReason_ = PendingError().Description();
         ReportPendingError("Processes", "CheckLoadedDocument");

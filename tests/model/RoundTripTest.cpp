@@ -7,6 +7,9 @@
 #include "model/Groups.h"
 #include "model/Process.h"
 
+#include <string>
+#include <vector>
+
 namespace flowloom::test {
 namespace {
 
@@ -108,6 +111,50 @@ TEST_F(RoundTrip, TheRootsChildrenAreReadAsAWholeTreeWouldBeRead) {
     EXPECT_EQ(processes->Item(CollectionPosition{1})->Groups()->Count(), 1);
     ASSERT_EQ(processes->Databases()->Count(), 1);
     EXPECT_EQ((*processes->Databases()->begin())->name, "D1");
+}
+
+// A file large enough that its text is given back behind the reader while
+// it loads: the parts read after the processes (databases, options) must
+// survive wherever they stand, and the text as loaded stays at hand.
+TEST_F(RoundTrip, ALargeFileReadsTheSameWhereverItsOtherPartsStand) {
+    const std::string original = ReadAll(SourceDir() / "tests/data/every_element.xml");
+    // Its root holds processes, then Databases, Groups and Options.
+    const auto between = [&](std::string_view from, std::string_view to) {
+        const std::size_t start = original.find(from);
+        return original.substr(start, original.find(to, start) - start);
+    };
+    const std::string head = original.substr(0, original.find("<Process "));
+    const std::string processes = between("<Process ", "<Databases>");
+    const std::string databases = between("<Databases>", "<Groups>");
+    const std::string groups = between("</Databases>", "<Options>").substr(12);
+    const std::string options = between("<Options>", "</Processes>");
+    std::vector<std::string> copies;
+    for (int i = 0; i < 250; ++i) {
+        std::string copy = processes;
+        for (std::size_t at = 0; (at = copy.find("<Process Name=\"", at)) != std::string::npos; at += 15)
+            copy.insert(at + 15, std::to_string(i) + " ");
+        copies.push_back(copy);
+    }
+    const auto join = [&](std::size_t from, std::size_t to) {
+        std::string text;
+        for (std::size_t i = from; i < to; ++i) text += copies[i];
+        return text;
+    };
+    const std::string canonical = head + join(0, 250) + databases + groups + options + "</Processes>";
+    ASSERT_GT(canonical.size(), std::size_t{1} << 20);  // more than a block of the packed copy
+    const std::vector<std::string> variants = {
+        canonical,
+        head + databases + options + join(0, 250) + groups + "</Processes>",
+        head + join(0, 100) + options + join(100, 200) + databases + join(200, 250) + groups + "</Processes>",
+    };
+    for (const std::string& text : variants) {
+        auto loaded = LoadText(text);
+        ASSERT_EQ(loaded->Complete(), Processes::Loaded);
+        EXPECT_EQ(loaded->Count(), 750);
+        EXPECT_TRUE(loaded->XML() == canonical);
+        EXPECT_TRUE(loaded->SourceXML() == text);
+    }
+    EXPECT_TRUE(prompts.errors.empty());
 }
 
 }  // namespace
