@@ -1,21 +1,37 @@
 #include "app/KeyedCollection.h"
 
-#include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace flowloom {
 
+namespace {
+
+constexpr std::uint64_t kOnes = 0x0101010101010101u;
+
+// 0x80 in each byte of `word` that is an ASCII capital; the bytes are ASCII.
+constexpr std::uint64_t AsciiCapitals(std::uint64_t word) noexcept {
+    const std::uint64_t atLeastA = word + (0x80 - 'A') * kOnes;
+    const std::uint64_t beyondZ = word + (0x7F - 'Z') * kOnes;
+    return atLeastA & ~beyondZ & (0x80 * kOnes);
+}
+
+}  // namespace
+
 FoldedKey::FoldedKey(std::string_view key) {
-    const bool shortAscii = key.size() <= kShort && std::all_of(key.begin(), key.end(), [](char c) {
-                                return static_cast<unsigned char>(c) < 0x80;
-                            });
-    if (!shortAscii) {
-        long_ = std::make_unique<std::string>(FoldCase(key));
-        return;
+    if (key.size() <= kShort) {
+        // As FoldCase folds ASCII, eight bytes at a time: the capitals become
+        // small letters (0x20 set where a capital stands).
+        std::uint64_t words[3] = {};
+        std::memcpy(words, key.data(), key.size());
+        if (((words[0] | words[1] | words[2]) & (0x80 * kOnes)) == 0) {
+            for (std::uint64_t& word : words) word |= AsciiCapitals(word) >> 2;
+            std::memcpy(short_, words, key.size());
+            size_ = static_cast<std::uint8_t>(key.size());
+            return;
+        }
     }
-    // As FoldCase folds ASCII: the capitals become small letters.
-    for (std::size_t i = 0; i < key.size(); ++i)
-        short_[i] = key[i] >= 'A' && key[i] <= 'Z' ? static_cast<char>(key[i] - 'A' + 'a') : key[i];
-    size_ = static_cast<std::uint8_t>(key.size());
+    long_ = std::make_unique<std::string>(FoldCase(key));
 }
 
 }  // namespace flowloom

@@ -89,7 +89,12 @@ public:
     // NameIs for this attribute. Two ASCII names are equal without regard to
     // case only at the same length; beyond ASCII, folding may change lengths.
     bool Is(std::string_view name) const {
-        if (!ascii_ || !IsAsciiText(name)) return NameIs(name_, name);
+        if (!IsAsciiText(name)) return NameIs(name_, name);
+        return IsAscii(name);
+    }
+    // As Is, for a name known to be ASCII.
+    bool IsAscii(std::string_view name) const {
+        if (!ascii_) return NameIs(name_, name);
         if (name.size() != name_.size()) return false;
         for (std::size_t i = 0; i < name.size(); ++i)
             if (((name_[i] ^ name[i]) & ~0x20) != 0 || (name_[i] != name[i] && !IsAsciiLetter(name[i]))) return false;
@@ -108,7 +113,21 @@ private:
     std::string_view value_;
     bool ascii_;
 };
-inline bool NameIs(const MeasuredAttribute& attribute, std::string_view name) { return attribute.Is(name); }
+// An attribute name that the readers spell out: known to be ASCII when the
+// program is compiled, so that no comparison has to look at it first.
+class AsciiName {
+public:
+    template <std::size_t N>
+    consteval AsciiName(const char (&name)[N]) : name_(name, N - 1) {  // NOLINT: made from a literal
+        for (const char c : name_)
+            if (static_cast<unsigned char>(c) >= 0x80) throw "an attribute name of a reader must be ASCII";
+    }
+    std::string_view View() const noexcept { return name_; }
+
+private:
+    std::string_view name_;
+};
+inline bool NameIs(const MeasuredAttribute& attribute, AsciiName name) { return attribute.IsAscii(name.View()); }
 
 // The attributes of an element, measured: for (const MeasuredAttribute a : MeasuredAttributes(element)).
 class MeasuredAttributes {

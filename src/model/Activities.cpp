@@ -12,7 +12,8 @@ bool Activities::Add(const std::shared_ptr<Activity>& activity, const Collection
     if (!activity) return false;
     return Guarded("Activities", "Add", [&] {
         ++typeCounts_[static_cast<std::size_t>(activity->Kind())];
-        items_.Add(activity, activity->Key(), before, after);
+        Activity::KeyRoom room;
+        items_.Add(activity, activity->KeyIn(room), before, after);
         // A MailMerge's datasource would be registered with the process here,
         // but its Datasource read never gives an object, so there is nothing to do.
         if (auto process = process_.lock()) activity->SetParentProcess(process);

@@ -2,6 +2,7 @@
 
 #include "support/VbStrings.h"
 
+#include <algorithm>
 #include <charconv>
 #include <random>
 
@@ -17,17 +18,19 @@ float NextRandomFraction() {
 }
 
 std::string Activity::Key() const {
+    KeyRoom room;
+    return std::string(KeyIn(room));
+}
+
+std::string_view Activity::KeyIn(KeyRoom& room) const {
     if (!keyDrawn_) {
         keyNumber_ = vb::CLng(static_cast<double>(NextRandomFraction()) * 2147483648.0);
         keyDrawn_ = true;
     }
     const std::string_view type = ActivityTypeName(Kind());
-    char digits[16];
-    char* end = std::to_chars(digits, digits + sizeof digits, keyNumber_).ptr;
-    std::string key;
-    key.reserve(type.size() + static_cast<std::size_t>(end - digits));
-    key.append(type).append(digits, static_cast<std::size_t>(end - digits));
-    return key;
+    char* end = std::copy(type.begin(), type.end(), room.data());
+    end = std::to_chars(end, room.data() + room.size(), keyNumber_).ptr;
+    return {room.data(), static_cast<std::size_t>(end - room.data())};
 }
 
 }  // namespace flowloom

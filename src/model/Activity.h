@@ -6,9 +6,11 @@
 
 #include "app/XmlElements.h"
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace flowloom {
 
@@ -27,6 +29,9 @@ public:
 
     // Made once from the type name and a random number, then kept; never saved.
     std::string Key() const;
+    // The key written into `room`, without making a string.
+    using KeyRoom = std::array<char, 32>;
+    std::string_view KeyIn(KeyRoom& room) const;
 
     std::shared_ptr<Process> ParentProcess() const { return parent_.lock(); }
     void SetParentProcess(const std::shared_ptr<Process>& process) {

@@ -3,6 +3,8 @@
 
 #include "support/TextCompare.h"
 
+#include <algorithm>
+
 namespace flowloom {
 
 namespace {
@@ -14,8 +16,15 @@ constexpr std::int32_t kFirstActivityItemType = 10;
 std::string_view ActivityTypeName(ActivityKind kind) noexcept { return kTypeNames[static_cast<std::size_t>(kind)]; }
 
 std::optional<ActivityKind> ActivityKindOfName(std::string_view typeName) {
-    for (ActivityKind kind : kActivityKinds)
-        if (NameIs(typeName, ActivityTypeName(kind))) return kind;
+    // The type names are ASCII: an ASCII name of another length is none of
+    // them, which tells most apart without comparing.
+    const bool ascii = std::none_of(typeName.begin(), typeName.end(),
+                                    [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+    for (ActivityKind kind : kActivityKinds) {
+        const std::string_view name = ActivityTypeName(kind);
+        if (ascii && name.size() != typeName.size()) continue;
+        if (NameIs(typeName, name)) return kind;
+    }
     return std::nullopt;
 }
 

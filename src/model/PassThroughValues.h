@@ -54,6 +54,6 @@ int FindArgument(const std::array<const char*, N>& names, const MeasuredAttribut
 template <std::size_t N>
 int flowloom::FindArgument(const std::array<const char*, N>& names, const MeasuredAttribute& attribute) {
     for (std::size_t i = 0; i < N; ++i)
-        if (attribute.Is(names[i])) return static_cast<int>(i);
+        if (attribute.IsAscii(names[i])) return static_cast<int>(i);
     return -1;
 }

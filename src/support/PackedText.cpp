@@ -1,6 +1,7 @@
 #include "support/PackedText.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <memory>
@@ -27,6 +28,30 @@ std::uint32_t Load32(const char* p) noexcept {
 }
 
 std::uint32_t Hash(std::uint32_t sequence) noexcept { return (sequence * 2654435761u) >> (32 - kHashBits); }
+
+std::uint64_t Load64(const char* p) noexcept {
+    std::uint64_t value;
+    std::memcpy(&value, p, sizeof value);
+    return value;
+}
+
+// How far the bytes at `at` repeat those at `from` (the first kMinMatch
+// are known to), eight at a time.
+std::size_t MatchLength(const char* base, std::size_t from, std::size_t at, std::size_t end) noexcept {
+    std::size_t length = kMinMatch;
+    while (at + length + 8 <= end) {
+        const std::uint64_t difference = Load64(base + from + length) ^ Load64(base + at + length);
+        if (difference) {
+            // The first byte in memory that differs.
+            const int bit = std::endian::native == std::endian::little ? std::countr_zero(difference)
+                                                                         : std::countl_zero(difference);
+            return length + static_cast<std::size_t>(bit) / 8;
+        }
+        length += 8;
+    }
+    while (at + length < end && base[from + length] == base[at + length]) ++length;
+    return length;
+}
 
 void PutLength(std::string& out, std::size_t length) {
     for (; length >= 255; length -= 255) out.push_back(static_cast<char>(255));
@@ -70,8 +95,7 @@ void PackBlock(std::string_view block, std::string& out, std::uint32_t* table) {
         }
         misses = 0;
         const std::size_t from = candidate - 1;
-        std::size_t length = kMinMatch;
-        while (at + length < block.size() && base[from + length] == base[at + length]) ++length;
+        const std::size_t length = MatchLength(base, from, at, block.size());
         PutSequence(out, block.substr(anchor, at - anchor), length, at - from);
         at += length;
         anchor = at;

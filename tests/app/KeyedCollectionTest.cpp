@@ -58,6 +58,27 @@ TEST(KeyedCollection, ShortLongAndFoldingKeysMatchAlike) {
     EXPECT_EQ(c.Count(), 3);
 }
 
+TEST(KeyedCollection, OnlyLettersMatchTheirOtherCaseAtEveryPlaceOfAKey) {
+    // Each ASCII character at each place of a short key, against the
+    // character that differs from it by the case bit ('@' and '`' are no
+    // pair, nor '[' and '{').
+    for (int c = 1; c < 0x80; ++c) {
+        const char other = static_cast<char>(c ^ 0x20);
+        if (other == 0) continue;
+        const bool letter = (c | 0x20) >= 'a' && (c | 0x20) <= 'z';
+        for (std::size_t at : {0u, 7u, 8u, 15u, 16u, 22u}) {
+            std::string key(23, '-');
+            key[at] = static_cast<char>(c);
+            std::string variant = key;
+            variant[at] = other;
+            KeyedCollection<Item> collection;
+            collection.Add(Make("k"), key);
+            EXPECT_EQ(collection.Contains(variant), letter) << c << " at " << at;
+            EXPECT_TRUE(collection.Contains(key));
+        }
+    }
+}
+
 TEST(KeyedCollection, PositionsBeforeAndAfterWithBeforeWinning) {
     KeyedCollection<Item> c;
     c.Add(Make("1"), "one");
