@@ -124,8 +124,12 @@ void Processes::ReadLoadedText(FileText& text) {
 
 void Processes::TextRelease::Before(std::string_view rest, std::size_t keepFrom) const {
     if (!text) return;
+    // A megabyte at a time: each give-back is a system call that also
+    // clears the other thread's view of those pages.
+    constexpr std::size_t kStep = std::size_t{1} << 20;
     const std::size_t offset = static_cast<std::size_t>(rest.data() - text->View().data());
-    text->ReleaseBefore(std::min({offset, keepFrom, packed->load(std::memory_order_acquire)}));
+    const std::size_t end = std::min({offset, keepFrom, packed->load(std::memory_order_acquire)});
+    if (end >= text->Released() + kStep) text->ReleaseBefore(end);
 }
 
 void Processes::CheckLoadedDocument(XmlDocument& document, const XmlOutline& outline, const TextRelease& release) {
