@@ -15,17 +15,26 @@ std::optional<std::string> ReadFileBytes(const std::filesystem::path& path) {
     return ReadFileBytes(path, ignored);
 }
 
-std::optional<std::string> ReadFileBytes(const std::filesystem::path& path, std::error_code& error) {
+UniqueFd OpenToReadWhole(const std::filesystem::path& path, std::size_t& claimedSize, std::error_code& error) {
     error.clear();
-    const UniqueFd fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    claimedSize = 0;
+    UniqueFd fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     struct stat st {};
     if (!fd || ::fstat(fd.Get(), &st) != 0) {
         error.assign(errno, std::generic_category());
-        return std::nullopt;
+        return {};
     }
+    claimedSize = static_cast<std::size_t>(st.st_size > 0 ? st.st_size : 0);
+    return fd;
+}
+
+std::optional<std::string> ReadFileBytes(const std::filesystem::path& path, std::error_code& error) {
+    std::size_t claimed = 0;
+    const UniqueFd fd = OpenToReadWhole(path, claimed, error);
+    if (!fd) return std::nullopt;
     // One read for the size the file claims; files that claim none (or
     // grow) are read on until the end.
-    std::string bytes(static_cast<std::size_t>(st.st_size > 0 ? st.st_size : 0) + 1, '\0');
+    std::string bytes(claimed + 1, '\0');
     std::size_t filled = 0;
     for (;;) {
         if (filled == bytes.size()) bytes.resize(bytes.size() * 2);

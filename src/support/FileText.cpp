@@ -1,10 +1,8 @@
 #include "support/FileText.h"
 
-#include "support/UniqueFd.h"
+#include "support/FileBytes.h"
 
-#include <fcntl.h>
 #include <sys/mman.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -28,17 +26,13 @@ std::size_t WholePages(std::size_t bytes) noexcept {
 }  // namespace
 
 std::optional<FileText> FileText::Read(const std::filesystem::path& path, std::error_code& error) {
-    error.clear();
-    const UniqueFd fd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    struct stat st {};
-    if (!fd || ::fstat(fd.Get(), &st) != 0) {
-        error.assign(errno, std::generic_category());
-        return std::nullopt;
-    }
+    std::size_t claimed = 0;
+    const UniqueFd fd = OpenToReadWhole(path, claimed, error);
+    if (!fd) return std::nullopt;
     FileText text;
-    // One read for the size the file claims; files that claim none (or
-    // grow) are read on until the end.
-    if (!text.Reserve(static_cast<std::size_t>(st.st_size > 0 ? st.st_size : 0) + 1)) {
+    // Room for the size the file claims; files that claim none (or grow)
+    // are read on until the end.
+    if (!text.Reserve(claimed + 1)) {
         error.assign(errno, std::generic_category());
         return std::nullopt;
     }
