@@ -1,5 +1,6 @@
 #include "model/Processes.h"
 
+#include "support/FileText.h"
 #include "support/ReportError.h"
 #include "support/TextCompare.h"
 #include "support/VbStrings.h"
@@ -93,7 +94,7 @@ bool Processes::ReadContents(const XmlOutline& outline, const TextRelease& relea
         auto process = Process::Create();
         process->LoadElement(read(child), self);
         Add(process);
-        release.Before(child.text.substr(child.text.size()), keepFrom);
+        release.Before(child.text.data() + child.text.size(), keepFrom);
     }
     if (const auto* child = databasesChild) {
         auto databases = std::make_shared<flowloom::Databases>();

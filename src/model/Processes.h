@@ -3,11 +3,9 @@
 #include "app/Tracked.h"
 #include "model/Forward.h"
 #include "app/XmlDocument.h"
-#include "support/FileText.h"
 #include "support/PackedText.h"
 
 #include <atomic>
-
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -16,6 +14,7 @@
 
 namespace flowloom {
 
+class FileText;
 enum class BackupRule;
 struct SaveOutcome;
 
@@ -129,7 +128,8 @@ private:
     struct TextRelease {
         FileText* text = nullptr;  // null: nothing is given back
         const std::atomic<std::size_t>* packed = nullptr;
-        void Before(std::string_view rest, std::size_t keepFrom) const;
+        // Up to `position` in the text, but not past `keepFrom` (an offset).
+        void Before(const char* position, std::size_t keepFrom) const;
     };
 
     // Reads the model from a file's text, which it packs and gives back.

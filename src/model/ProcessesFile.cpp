@@ -5,6 +5,7 @@
 #include "model/xml/CProcessesXMLDoc.h"
 #include "model/xml/UpdateVersion.h"
 #include "support/AppPaths.h"
+#include "support/FileText.h"
 #include "support/FileErrors.h"
 #include "support/Prompts.h"
 #include "support/ReportError.h"
@@ -122,12 +123,12 @@ void Processes::ReadLoadedText(FileText& text) {
     CheckLoadedDocument(document, outline, TextRelease{converted.empty() ? &text : nullptr, &packed});
 }
 
-void Processes::TextRelease::Before(std::string_view rest, std::size_t keepFrom) const {
+void Processes::TextRelease::Before(const char* position, std::size_t keepFrom) const {
     if (!text) return;
     // A megabyte at a time: each give-back is a system call that also
     // clears the other thread's view of those pages.
     constexpr std::size_t kStep = std::size_t{1} << 20;
-    const std::size_t offset = static_cast<std::size_t>(rest.data() - text->View().data());
+    const std::size_t offset = static_cast<std::size_t>(position - text->View().data());
     const std::size_t end = std::min({offset, keepFrom, packed->load(std::memory_order_acquire)});
     if (end >= text->Released() + kStep) text->ReleaseBefore(end);
 }
