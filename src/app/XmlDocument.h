@@ -86,13 +86,9 @@ public:
         : name_(attribute.name()), value_(attribute.value()), ascii_(IsAsciiText(name_)) {}
     std::string_view name() const noexcept { return name_; }
     std::string_view value() const noexcept { return value_; }
-    // NameIs for this attribute. Two ASCII names are equal without regard to
-    // case only at the same length; beyond ASCII, folding may change lengths.
-    bool Is(std::string_view name) const {
-        if (!IsAsciiText(name)) return NameIs(name_, name);
-        return IsAscii(name);
-    }
-    // As Is, for a name known to be ASCII.
+    // NameIs for this attribute and an ASCII name. Two ASCII names are equal
+    // without regard to case only at the same length; beyond ASCII, folding
+    // may change lengths.
     bool IsAscii(std::string_view name) const {
         if (!ascii_) return NameIs(name_, name);
         if (name.size() != name_.size()) return false;
